@@ -1,0 +1,48 @@
+# SPDX-FileCopyrightText: 2026 The PYXRuntime developers
+# SPDX-License-Identifier: LGPL-3.0-or-later
+
+# Language level and warnings of every target of this project.
+function(pyx_configure_target target)
+    target_compile_features(${target} PRIVATE cxx_std_17)
+    set_target_properties(${target} PROPERTIES CXX_EXTENSIONS OFF)
+    target_compile_options(${target} PRIVATE
+        $<$<CXX_COMPILER_ID:GNU,Clang>:-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion
+        -Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wcast-qual -Wundef>
+        $<$<CXX_COMPILER_ID:MSVC>:/W4 /permissive- /utf-8>)
+endfunction()
+
+# Adds the files of one room to the library: its public headers (installed flat), its sources, and
+# the room's include directories.
+#   pyx_add_room(ROOM name [HEADERS file...] SOURCES file...)
+function(pyx_add_room)
+    cmake_parse_arguments(PARSE_ARGV 0 ARG "" "ROOM" "HEADERS;SOURCES")
+    set(public_dir "${PROJECT_SOURCE_DIR}/include/${ARG_ROOM}")
+    list(TRANSFORM ARG_HEADERS PREPEND "${public_dir}/")
+    target_sources(PYXRuntime PRIVATE ${ARG_SOURCES} ${ARG_HEADERS})
+    if(ARG_HEADERS)
+        target_include_directories(PYXRuntime PUBLIC "$<BUILD_INTERFACE:${public_dir}>")
+        set_property(GLOBAL APPEND PROPERTY PYX_PUBLIC_HEADERS ${ARG_HEADERS})
+    endif()
+    target_include_directories(PYXRuntime PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")
+endfunction()
+
+# Registers the test program tst_<name>.cpp of a room.
+#   pyx_add_test(name [THREADS] [SOURCES internal sources under test...] [LIBRARIES lib...] [TIMEOUT s])
+# THREADS marks a test whose promises about threads are checked by the thread sanitizer.
+function(pyx_add_test name)
+    cmake_parse_arguments(PARSE_ARGV 1 ARG "THREADS" "TIMEOUT" "SOURCES;LIBRARIES")
+    find_package(Qt5 5.15 REQUIRED COMPONENTS Test)
+    add_executable(tst_${name} tst_${name}.cpp ${ARG_SOURCES})
+    pyx_configure_target(tst_${name})
+    target_link_libraries(tst_${name} PRIVATE PYXRuntime::PYXRuntime Qt5::Test ${ARG_LIBRARIES})
+    target_include_directories(tst_${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
+    add_test(NAME ${name} COMMAND tst_${name})
+    if(NOT ARG_TIMEOUT)
+        set(ARG_TIMEOUT 120)
+    endif()
+    set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT} ENVIRONMENT
+        "QT_QPA_PLATFORM=offscreen;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp;TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/tsan.supp halt_on_error=0;UBSAN_OPTIONS=halt_on_error=1 print_stacktrace=1")
+    if(ARG_THREADS)
+        set_property(TEST ${name} APPEND PROPERTY LABELS threads)
+    endif()
+endfunction()

@@ -1,0 +1,65 @@
+// SPDX-FileCopyrightText: 2026 The PYXRuntime developers
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#pragma once
+
+#include <QtCore/QByteArray>
+#include <QtCore/QString>
+
+/**
+ * Every call to an operating system, behind small functions. Each has two sides: Platform_win.cpp and
+ * Platform_unix.cpp. All of them may be called from any thread and before QCoreApplication exists.
+ */
+namespace PYXRuntime::Platform {
+
+/** Console text attributes, in the numbering of the Windows console. */
+enum eConsoleColour : quint16 {
+    ekConsole_Green = 10,
+    ekConsole_Cyan = 11,
+    ekConsole_Red = 12,
+    ekConsole_Yellow = 14,
+    ekConsole_White = 15
+};
+
+bool isDebuggerAttached();
+
+/** Writes the text and then a newline to the debugger channel (on Linux: standard error). */
+void writeDebuggerLine(const QString &text);
+
+/** Writes the text and a line end to standard error and flushes it. */
+void writeStandardErrorLine(const QString &text);
+
+/** Writes the bytes and a newline to standard output. */
+void writeStandardOutputLine(const QByteArray &bytes);
+
+/** The bytes that a console of this system shows as the text. */
+QByteArray consoleBytes(const QString &text);
+
+/**
+ * Colours what is written to the console from now on; white goes back to the normal colour.
+ * Silently does nothing where there is no console.
+ */
+void setConsoleColour(eConsoleColour colour);
+
+/** The raw high-resolution counter; 0 and *ok false where there is none. */
+qint64 performanceCounter(bool *ok);
+
+/** Ticks of the high-resolution counter per second; 0 and *ok false where there is none. */
+qint64 performanceFrequency(bool *ok);
+
+/** Time since the system started, in milliseconds, wrapping after 49.7 days. */
+quint32 uptimeMilliseconds();
+
+/** Now as a FILETIME: 100-ns units since 1601-01-01 00:00:00 UTC. */
+quint64 fileTimeNow();
+
+/** 1970-01-01 00:00:00 UTC as a FILETIME. */
+quint64 fileTimeOfUnixEpoch();
+
+/** The file name under which a shared library of this base name is looked for. */
+QString libraryFileName(const QString &baseName);
+
+/** Tells the shell that files with this suffix are XML texts; does nothing where there is no such registry.
+ */
+void registerXmlFileType(const QString &suffix);
+
+} // namespace PYXRuntime::Platform

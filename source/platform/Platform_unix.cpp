@@ -1,0 +1,134 @@
+// SPDX-FileCopyrightText: 2026 The PYXRuntime developers
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "Platform.h"
+
+#include <cstdio>
+#include <ctime>
+#include <fcntl.h>
+#include <unistd.h>
+
+namespace PYXRuntime::Platform {
+namespace {
+
+constexpr qint64 NanosecondsPerSecond = 1'000'000'000;
+constexpr quint64 FileTimeTicksPerSecond = 10'000'000;
+// Seconds from 1601-01-01 to 1970-01-01 (RFC 1305 counts 369 years with 89 leap days).
+constexpr quint64 SecondsFrom1601To1970 = (369ULL * 365 + 89) * 86400;
+
+void writeLine(std::FILE *stream, const QByteArray &bytes)
+{
+    // One call, so that lines of several threads do not mix.
+    const QByteArray line = bytes + '\n';
+    std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stream);
+}
+
+const char *escapeSequence(eConsoleColour colour)
+{
+    switch (colour) {
+    case ekConsole_Green:
+        return "\033[92m";
+    case ekConsole_Cyan:
+        return "\033[96m";
+    case ekConsole_Red:
+        return "\033[91m";
+    case ekConsole_Yellow:
+        return "\033[93m";
+    case ekConsole_White:
+        break;
+    }
+    // A terminal's normal colour is its user's choice: white letters would vanish on white ground.
+    return "\033[0m";
+}
+
+qint64 nanosecondsOf(clockid_t clock, bool *ok)
+{
+    timespec now = {};
+    const bool success = clock_gettime(clock, &now) == 0;
+    if (ok != nullptr)
+        *ok = success;
+    return success ? qint64(now.tv_sec) * NanosecondsPerSecond + qint64(now.tv_nsec) : 0;
+}
+
+} // namespace
+
+bool isDebuggerAttached()
+{
+    // Read with plain calls: this runs for every line, also where Qt's files are not to be had yet.
+    const int file = open("/proc/self/status", O_RDONLY | O_CLOEXEC);
+    if (file < 0)
+        return false;
+    char buffer[4096];
+    const ssize_t length = read(file, buffer, sizeof buffer - 1);
+    close(file);
+    const QByteArray status = QByteArray::fromRawData(buffer, int(qMax<ssize_t>(length, 0)));
+    static const QByteArray tag("\nTracerPid:\t");
+    const int at = status.indexOf(tag);
+    return at >= 0 && at + tag.size() < status.size() && status.at(at + tag.size()) != '0';
+}
+
+void writeDebuggerLine(const QString &text)
+{
+    writeStandardErrorLine(text);
+}
+
+void writeStandardErrorLine(const QString &text)
+{
+    writeLine(stderr, consoleBytes(text));
+    std::fflush(stderr);
+}
+
+void writeStandardOutputLine(const QByteArray &bytes)
+{
+    writeLine(stdout, bytes);
+}
+
+QByteArray consoleBytes(const QString &text)
+{
+    return text.toUtf8();
+}
+
+void setConsoleColour(eConsoleColour colour)
+{
+    static const bool isTerminal = isatty(STDERR_FILENO) == 1;
+    if (!isTerminal)
+        return;
+    std::fflush(stdout);
+    std::fputs(escapeSequence(colour), stderr);
+    std::fflush(stderr);
+}
+
+qint64 performanceCounter(bool *ok)
+{
+    return nanosecondsOf(CLOCK_MONOTONIC, ok);
+}
+
+qint64 performanceFrequency(bool *ok)
+{
+    if (ok != nullptr)
+        *ok = true;
+    return NanosecondsPerSecond;
+}
+
+quint32 uptimeMilliseconds()
+{
+    return static_cast<quint32>(nanosecondsOf(CLOCK_BOOTTIME, nullptr) / 1'000'000);
+}
+
+quint64 fileTimeNow()
+{
+    return fileTimeOfUnixEpoch() + quint64(nanosecondsOf(CLOCK_REALTIME, nullptr)) / 100;
+}
+
+quint64 fileTimeOfUnixEpoch()
+{
+    return SecondsFrom1601To1970 * FileTimeTicksPerSecond;
+}
+
+QString libraryFileName(const QString &baseName)
+{
+    return baseName;
+}
+
+void registerXmlFileType(const QString &) {}
+
+} // namespace PYXRuntime::Platform

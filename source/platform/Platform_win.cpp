@@ -1,0 +1,126 @@
+// SPDX-FileCopyrightText: 2026 The PYXRuntime developers
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "Platform.h"
+
+#include <QtCore/QSettings>
+
+#include <cstdio>
+#include <windows.h>
+// After windows.h, whose types it needs.
+#include <mmsystem.h>
+
+namespace PYXRuntime::Platform {
+namespace {
+
+quint64 ticksOf(const SYSTEMTIME &systemTime)
+{
+    FILETIME fileTime = {};
+    SystemTimeToFileTime(&systemTime, &fileTime);
+    return (quint64(fileTime.dwHighDateTime) << 32) | fileTime.dwLowDateTime;
+}
+
+void writeLine(std::FILE *stream, const QByteArray &bytes)
+{
+    const QByteArray line = bytes + '\n';
+    std::fwrite(line.constData(), 1, static_cast<std::size_t>(line.size()), stream);
+}
+
+const wchar_t *wideText(const QString &text)
+{
+    return reinterpret_cast<const wchar_t *>(text.utf16());
+}
+
+} // namespace
+
+bool isDebuggerAttached()
+{
+    return IsDebuggerPresent() != FALSE;
+}
+
+void writeDebuggerLine(const QString &text)
+{
+    OutputDebugStringW(wideText(text));
+    OutputDebugStringW(L"\n");
+}
+
+void writeStandardErrorLine(const QString &text)
+{
+    writeLine(stderr, consoleBytes(text));
+    std::fflush(stderr);
+}
+
+void writeStandardOutputLine(const QByteArray &bytes)
+{
+    writeLine(stdout, bytes);
+}
+
+QByteArray consoleBytes(const QString &text)
+{
+    return text.toLocal8Bit();
+}
+
+void setConsoleColour(eConsoleColour colour)
+{
+    const HANDLE console =
+        CreateFileW(L"CONOUT$", GENERIC_WRITE, FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, 0, nullptr);
+    if (console == INVALID_HANDLE_VALUE)
+        return;
+    SetConsoleTextAttribute(console, colour);
+    CloseHandle(console);
+}
+
+qint64 performanceCounter(bool *ok)
+{
+    LARGE_INTEGER counter = {};
+    const bool success = QueryPerformanceCounter(&counter) != FALSE;
+    if (ok != nullptr)
+        *ok = success;
+    return success ? counter.QuadPart : 0;
+}
+
+qint64 performanceFrequency(bool *ok)
+{
+    LARGE_INTEGER frequency = {};
+    const bool success = QueryPerformanceFrequency(&frequency) != FALSE && frequency.QuadPart != 0;
+    if (ok != nullptr)
+        *ok = success;
+    return success ? frequency.QuadPart : 0;
+}
+
+quint32 uptimeMilliseconds()
+{
+    return timeGetTime();
+}
+
+quint64 fileTimeNow()
+{
+    SYSTEMTIME now = {};
+    GetSystemTime(&now);
+    return ticksOf(now);
+}
+
+quint64 fileTimeOfUnixEpoch()
+{
+    SYSTEMTIME epoch = {};
+    epoch.wYear = 1970;
+    epoch.wMonth = 1;
+    epoch.wDay = 1;
+    return ticksOf(epoch);
+}
+
+QString libraryFileName(const QString &baseName)
+{
+    return baseName + QLatin1String(".dll");
+}
+
+void registerXmlFileType(const QString &suffix)
+{
+    QSettings classes(QStringLiteral("HKEY_CLASSES_ROOT"), QSettings::NativeFormat);
+    classes.beginGroup(QLatin1Char('.') + suffix);
+    classes.setValue(QStringLiteral("."), QStringLiteral("xmlfile"));
+    classes.setValue(QStringLiteral("Content Type"), QStringLiteral("text/xml"));
+    classes.setValue(QStringLiteral("PerceivedType"), QStringLiteral("text"));
+    classes.endGroup();
+}
+
+} // namespace PYXRuntime::Platform
