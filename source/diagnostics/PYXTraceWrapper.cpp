@@ -94,8 +94,9 @@ void writeDebugOut(const struLevel &level, const char *kind, const QString &text
     const bool bColored = s_bColored.load(std::memory_order_relaxed);
     if (bColored)
         Platform::setConsoleColour(level.colour);
-    const QString output = QLatin1String(file) % QLatin1Char('(') % QString::number(line) % QLatin1String(") : ")
-        % QLatin1String(kind) % QLatin1String(level.tag) % QLatin1String(" : ") % text;
+    const QString output = QLatin1String(file) % QLatin1Char('(') % QString::number(line) %
+                           QLatin1String(") : ") % QLatin1String(kind) % QLatin1String(level.tag) %
+                           QLatin1String(" : ") % text;
     if (s_bUsePrintf.load(std::memory_order_relaxed))
         Platform::writeStandardOutputLine(printfLine(Platform::consoleBytes(output)));
     else
