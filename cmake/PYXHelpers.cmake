@@ -27,15 +27,16 @@ function(pyx_add_room)
 endfunction()
 
 # Registers the test program tst_<name>.cpp of a room.
-#   pyx_add_test(name [THREADS] [SOURCES internal sources under test...] [LIBRARIES lib...] [TIMEOUT s])
+#   pyx_add_test(name [THREADS] [SOURCES internal sources under test...] [INCLUDES their directories...]
+#                [LIBRARIES lib...] [TIMEOUT s])
 # THREADS marks a test whose promises about threads are checked by the thread sanitizer.
 function(pyx_add_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 ARG "THREADS" "TIMEOUT" "SOURCES;LIBRARIES")
+    cmake_parse_arguments(PARSE_ARGV 1 ARG "THREADS" "TIMEOUT" "SOURCES;INCLUDES;LIBRARIES")
     find_package(Qt5 5.15 REQUIRED COMPONENTS Test)
     add_executable(tst_${name} tst_${name}.cpp ${ARG_SOURCES})
     pyx_configure_target(tst_${name})
     target_link_libraries(tst_${name} PRIVATE PYXRuntime::PYXRuntime Qt5::Test ${ARG_LIBRARIES})
-    target_include_directories(tst_${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
+    target_include_directories(tst_${name} PRIVATE "${PROJECT_SOURCE_DIR}/tests" ${ARG_INCLUDES})
     add_test(NAME ${name} COMMAND tst_${name})
     if(NOT ARG_TIMEOUT)
         set(ARG_TIMEOUT 120)

@@ -12,6 +12,7 @@
 #include <QtCore/QTimer>
 
 #include <algorithm>
+#include <limits>
 #include <mutex>
 #include <tuple>
 
@@ -182,7 +183,7 @@ QObject *PYXBroker::_waitWithEvents(const QUuid &id, uint name, QDeadlineTimer d
     while (object == nullptr && !deadline.hasExpired()) {
         // Set again each time: every registration of anything ends one round.
         if (!deadline.isForever())
-            timer.start(int(deadline.remainingTime()) + 1);
+            timer.start(int(std::min<qint64>(deadline.remainingTime() + 1, std::numeric_limits<int>::max())));
         loop.exec(QEventLoop::ExcludeUserInputEvents);
         object = newestLiving();
     }

@@ -257,6 +257,7 @@ bool PYXRuntimeCenter::_readConfigFile(const QString &path)
                              QLatin1String("')"));
     QTextStream stream(&file);
     stream.setCodec("UTF-8");
+    stream.setAutoDetectUnicode(false);
     QString line;
     while (stream.readLineInto(&line)) {
         line = line.simplified();

@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 The PYXRuntime developers
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#pragma once
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QDir>
+#include <QtCore/QProcess>
+#include <QtCore/QString>
+
+/** What a finished child process has left. */
+struct ChildResult
+{
+    bool bFinished = false;
+    int exitCode = -1;
+    QString output;
+    QString errors;
+};
+
+/** Runs a program that finds the libraries beside the test program; waits until it ends. */
+inline ChildResult runChild(const QString &program, const QStringList &arguments)
+{
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("PATH", QDir::toNativeSeparators(QCoreApplication::applicationDirPath()) +
+                                   QDir::listSeparator() + environment.value("PATH"));
+    process.setProcessEnvironment(environment);
+    process.start(program, arguments);
+    ChildResult result;
+    result.bFinished = process.waitForFinished(60'000) && process.exitStatus() == QProcess::NormalExit;
+    result.exitCode = process.exitCode();
+    result.output = QString::fromUtf8(process.readAllStandardOutput()).remove('\r');
+    result.errors = QString::fromUtf8(process.readAllStandardError()).remove('\r');
+    return result;
+}
