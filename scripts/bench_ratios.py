@@ -1,0 +1,76 @@
+#!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 The PYXRuntime developers
+# SPDX-License-Identifier: LGPL-3.0-or-later
+"""Prints the races of Google Benchmark results as ratios of medians.
+
+usage: bench_ratios.py RESULT.json...
+
+A benchmark is named "<area>/<race>/<contestant>"; the contestants whose name begins with "PYX" are ours.
+"""
+import collections
+import json
+import re
+import statistics
+import sys
+
+# Highest ratio that is good enough, by race and peer; "ms" goals are differences in milliseconds.
+GOALS = {
+    ("diagnostics/disabled message", "qCDebug"): 1.5,
+    ("diagnostics/trace line to a file", "spdlog"): 1.0,
+    ("broker/topObject", "by hand"): 1.3,
+    ("settings/read", "Ini"): 0.8,
+    ("settings/sync", "Ini"): 1.0,
+    ("settings/sync", "KConfig"): 1.0,
+}
+DIFFERENCE_GOALS = {("startup/process", "bare QApplication"): 10.0}
+NANOSECONDS = {"ns": 1.0, "us": 1e3, "ms": 1e6, "s": 1e9}
+
+
+def races(paths):
+    """(race, threads) -> contestant -> real times in ns."""
+    found = collections.defaultdict(lambda: collections.defaultdict(list))
+    for path in paths:
+        with open(path, encoding="utf-8") as file:
+            runs = json.load(file)["benchmarks"]
+        for run in runs:
+            if run.get("run_type") != "iteration" or run.get("error_occurred"):
+                continue
+            area, race, contestant, *rest = run["run_name"].split("/")
+            threads = next((word for word in rest if re.match(r"threads:\d+$", word)), "")
+            time = run["real_time"] * NANOSECONDS[run["time_unit"]]
+            found[(f"{area}/{race}", threads)][contestant].append(time)
+    return found
+
+
+def show(nanoseconds):
+    for unit, size in (("s", 1e9), ("ms", 1e6), ("us", 1e3)):
+        if nanoseconds >= size:
+            return f"{nanoseconds / size:.2f} {unit}"
+    return f"{nanoseconds:.2f} ns"
+
+
+def verdict(race, peer, ours, theirs):
+    if (race, peer) in DIFFERENCE_GOALS:
+        difference, goal = (ours - theirs) / 1e6, DIFFERENCE_GOALS[(race, peer)]
+        return f"+{difference:.2f} ms", f"{goal:g} ms", difference <= goal
+    goal = GOALS.get((race, peer))
+    ratio = ours / theirs
+    return f"{ratio:.2f}", f"{goal:g}" if goal else "-", goal is None or ratio <= goal
+
+
+def main():
+    rows = [("race", "ours", "peer", "ours", "peer's", "ratio", "goal", "")]
+    for (race, threads), contestants in sorted(races(sys.argv[1:]).items()):
+        medians = {name: statistics.median(times) for name, times in contestants.items()}
+        for ours in sorted(name for name in medians if name.startswith("PYX")):
+            for peer in sorted(name for name in medians if not name.startswith("PYX")):
+                ratio, goal, good = verdict(race, peer, medians[ours], medians[peer])
+                rows.append((f"{race} {threads}".strip(), ours, peer, show(medians[ours]), show(medians[peer]),
+                             ratio, goal, "" if good else "missed"))
+    widths = [max(len(row[column]) for row in rows) for column in range(len(rows[0]))]
+    for row in rows:
+        print("  ".join(cell.ljust(width) for cell, width in zip(row, widths)).rstrip())
+
+
+if __name__ == "__main__":
+    main()
