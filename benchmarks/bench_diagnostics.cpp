@@ -7,11 +7,13 @@
 #include <QtCore/QTemporaryDir>
 
 #include <benchmark/benchmark.h>
+#include <charconv>
 #include <cstdio>
 #include <memory>
 #include <mutex>
 #include <spdlog/sinks/basic_file_sink.h>
 #include <spdlog/spdlog.h>
+#include <string>
 
 using PYXRuntime::PYXRuntimeCenter;
 using PYXRuntime::PYXTraceWrapper;
@@ -55,10 +57,12 @@ public:
     {
         const QByteArray utf8 = text.toUtf8();
         const std::lock_guard<std::mutex> locker(m_mutex);
-        m_line.resize(0);
-        m_line.append(file).append('(').append(QByteArray::number(line)).append(") : TRACE_WARN : ");
-        m_line.append(utf8).append('\n');
-        std::fwrite(m_line.constData(), 1, std::size_t(m_line.size()), m_file);
+        m_line.clear();
+        char number[8];
+        const auto numberEnd = std::to_chars(std::begin(number), std::end(number), line).ptr;
+        m_line.append(file).append(1, '(').append(number, std::size_t(numberEnd - number));
+        m_line.append(") : TRACE_WARN : ").append(utf8.constData(), std::size_t(utf8.size())).append(1, '\n');
+        std::fwrite(m_line.data(), 1, m_line.size(), m_file);
     }
     void traceDebug(const QStringList &, const char *, ushort) override {}
     void traceDebug(const QString &, const char *, ushort) override {}
@@ -75,7 +79,7 @@ public:
 private:
     std::FILE *m_file;
     std::mutex m_mutex;
-    QByteArray m_line;
+    std::string m_line;
 };
 
 const char *const SourceFile = "source\\Demodulator";

@@ -42,7 +42,7 @@ bool BrokerTable::remove(const QUuid &id, uint name, QObject *object)
 
 QObject *BrokerTable::top(const QUuid &id, uint name)
 {
-    Slot *const registrations = slot(id, name);
+    Slot *const registrations = rememberedSlot(id, name);
     if (registrations == nullptr)
         return nullptr;
     if (QObject *const object = registrations->constFirst().data())
@@ -89,11 +89,22 @@ BrokerTable::Slot *BrokerTable::slot(const QUuid &id, uint name) const
     return names != m_table.cend() ? names.value()->value(name, nullptr) : nullptr;
 }
 
+BrokerTable::Slot *BrokerTable::rememberedSlot(const QUuid &id, uint name)
+{
+    struRemembered &remembered = m_remembered[rememberedIndex(id, name)];
+    if (remembered.slot == nullptr || remembered.name != name || remembered.id != id)
+        remembered = {id, name, slot(id, name)};
+    return remembered.slot;
+}
+
 void BrokerTable::dropIfEmpty(const QUuid &id, uint name)
 {
     auto *const names = m_table.value(id);
     if (!names->value(name)->isEmpty())
         return;
+    struRemembered &remembered = m_remembered[rememberedIndex(id, name)];
+    if (remembered.slot == names->value(name))
+        remembered = {};
     delete names->take(name);
     if (names->isEmpty())
         delete m_table.take(id);

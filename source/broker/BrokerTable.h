@@ -4,6 +4,8 @@
 
 #include "PYXBroker.h"
 
+#include <array>
+
 namespace PYXRuntime {
 
 /** The registrations of the broker. Not locked. A slot exists only while it holds a registration. */
@@ -31,9 +33,24 @@ public:
 
 private:
     Slot *slot(const QUuid &id, uint name) const;
+    Slot *rememberedSlot(const QUuid &id, uint name);
     void dropIfEmpty(const QUuid &id, uint name);
 
+    /** Where a slot was found last: spares the look-ups of callers that ask for few slots again and again. */
+    struct struRemembered
+    {
+        QUuid id;
+        uint name = 0;
+        Slot *slot = nullptr;
+    };
+    static std::size_t rememberedIndex(const QUuid &id, uint name)
+    {
+        return (id.data1 ^ id.data3 ^ name) % RememberedSlots;
+    }
+    static constexpr std::size_t RememberedSlots = 64;
+
     PYXBroker::ObjectTable m_table;
+    std::array<struRemembered, RememberedSlots> m_remembered;
 };
 
 } // namespace PYXRuntime
