@@ -5,8 +5,10 @@
 #include "EmbeddedFonts.h"
 #include "PYXRuntimeCenter.h"
 #include "PYXTraceWrapper.h"
+#include "PYXXmlSettings.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QSettings>
 
 #include <atomic>
 
@@ -70,6 +72,7 @@ bool initialize_PYXRuntime(ePYXInitializeFlags flags)
     PYXTraceWrapper::staticTraceDebug(QStringLiteral("initialize_PYXRuntime: first call => initializing"),
                                       TraceFile, __LINE__);
     reportMissingApplicationName();
+    QSettings::setDefaultFormat(PYXXmlSettings::format());
     if (!flags.testFlag(ekInitialize_NoFonts))
         setUpFonts(flags);
     s_initializationFlags = flags;
@@ -89,6 +92,8 @@ void uninitialize_PYXRuntime()
     PYXTraceWrapper::staticTraceDebug(
         QStringLiteral("uninitialize_PYXRuntime: last reference gone => cleaning up"), TraceFile, __LINE__);
     tearDownFonts();
+    if (QSettings::defaultFormat() == PYXXmlSettings::format())
+        QSettings::setDefaultFormat(QSettings::NativeFormat);
 }
 
 bool isInitialized_PYXRuntime()

@@ -3,6 +3,7 @@
 #include "ChildProcess.h"
 #include "PYXRuntime.h"
 #include "PYXTraceWrapper.h"
+#include "PYXXmlSettings.h"
 #include "RecordingTracer.h"
 
 #include <QtGui/QFontDatabase>
@@ -19,6 +20,7 @@ private slots:
     void cleanup();
     void countsReferences();
     void reportsMissingApplicationName();
+    void makesXmlTheDefaultOfSettings();
     void fontsHaveFourFacesInTwoFamilies();
     void substitutions_data();
     void substitutions();
@@ -95,6 +97,21 @@ void tst_PYXRuntime::reportsMissingApplicationName()
     QVERIFY2(result.errors.contains("PYXRuntime(0) : TRACE_WARN : " + text), qPrintable(result.errors));
     QVERIFY(result.errors.contains(
         QRegularExpression(R"(source\\PYXRuntime\(\d+\) : TRACE_WARN : )" + text.left(30))));
+}
+
+void tst_PYXRuntime::makesXmlTheDefaultOfSettings()
+{
+    initialize_PYXRuntime(ekInitialize_NoFonts);
+    QCOMPARE(QSettings::defaultFormat(), PYXXmlSettings::format());
+    QVERIFY(QSettings().fileName().endsWith("/tst_PYXRuntime.PYXXml"));
+    uninitialize_PYXRuntime();
+    QCOMPARE(QSettings::defaultFormat(), QSettings::NativeFormat);
+
+    initialize_PYXRuntime(ekInitialize_NoFonts);
+    QSettings::setDefaultFormat(QSettings::IniFormat); // the application's own choice stays
+    uninitialize_PYXRuntime();
+    QCOMPARE(QSettings::defaultFormat(), QSettings::IniFormat);
+    QSettings::setDefaultFormat(QSettings::NativeFormat);
 }
 
 void tst_PYXRuntime::fontsHaveFourFacesInTwoFamilies()
