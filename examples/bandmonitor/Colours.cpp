@@ -1,0 +1,28 @@
+// SPDX-FileCopyrightText: 2026 The PYXRuntime developers
+// SPDX-License-Identifier: BSD-3-Clause
+#include "Colours.h"
+
+namespace BandMonitor {
+
+QPalette darkPalette()
+{
+    const QColor window(0x2b, 0x2d, 0x30);
+    const QColor base(0x1e, 0x1f, 0x22);
+    const QColor text(0xdf, 0xe1, 0xe5);
+    const QColor dimmed(0x7a, 0x7e, 0x85);
+    QPalette palette(text, window, QColor(0x4a, 0x4d, 0x52), QColor(0x18, 0x19, 0x1b),
+                     QColor(0x3c, 0x3f, 0x43), text, Qt::white, base, window);
+    palette.setColor(QPalette::Button, QColor(0x36, 0x39, 0x3d));
+    palette.setColor(QPalette::AlternateBase, QColor(0x25, 0x27, 0x2a));
+    palette.setColor(QPalette::ToolTipBase, window);
+    palette.setColor(QPalette::ToolTipText, text);
+    palette.setColor(QPalette::PlaceholderText, dimmed);
+    palette.setColor(QPalette::Highlight, QColor(0x2f, 0x6f, 0xb0));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::Link, QColor(0x6c, 0xb8, 0xf5));
+    for (const QPalette::ColorRole role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, dimmed);
+    return palette;
+}
+
+} // namespace BandMonitor

@@ -1,0 +1,82 @@
+// SPDX-FileCopyrightText: 2026 The PYXRuntime developers
+// SPDX-License-Identifier: BSD-3-Clause
+#include "LogDock.h"
+
+#include "Scale.h"
+
+#include <PYXTraceWrapper.h>
+
+#include <QtGui/QTextCharFormat>
+#include <QtGui/QTextCursor>
+#include <QtWidgets/QPlainTextEdit>
+
+namespace BandMonitor {
+namespace {
+
+constexpr QRgb WarningColour = qRgb(0xd9, 0x82, 0x00);
+constexpr QRgb ErrorColour = qRgb(0xe0, 0x3c, 0x31);
+
+QColor colourOf(LogTracer::eLevel level, const QPalette &palette)
+{
+    const QColor text = palette.color(QPalette::Text);
+    switch (level) {
+    case LogTracer::ekLevel_Warning:
+        return WarningColour;
+    case LogTracer::ekLevel_Error:
+        return ErrorColour;
+    case LogTracer::ekLevel_Debug:
+        return mixed(text, palette.color(QPalette::Base), 0.25);
+    default:
+        return text;
+    }
+}
+
+/** The module of a trace without the folders of its source. */
+QString shortOrigin(const QString &origin)
+{
+    return origin.mid(origin.lastIndexOf(QLatin1Char('\\')) + 1);
+}
+
+} // namespace
+
+LogDock::LogDock(QWidget *parent)
+    : QDockWidget(parent)
+    , m_view(new QPlainTextEdit(this))
+{
+    setObjectName(QStringLiteral("logDock"));
+    setWindowTitle(tr("Log"));
+    m_view->setObjectName(QStringLiteral("logView"));
+    m_view->setReadOnly(true);
+    m_view->setMaximumBlockCount(MaximumLines);
+    m_view->setFrameShape(QFrame::NoFrame);
+    setWidget(m_view);
+    // Traces come in any thread; the dock lives in the one of the windows.
+    connect(&m_tracer, &LogTracer::si_linesWaiting, this, &LogDock::_showLines, Qt::QueuedConnection);
+    PYXRuntime::PYXTraceWrapper::addTracer(&m_tracer);
+}
+
+LogDock::~LogDock()
+{
+    PYXRuntime::PYXTraceWrapper::removeTracer(&m_tracer);
+}
+
+void LogDock::_showLines()
+{
+    const QVector<LogTracer::struLine> lines = m_tracer.takeLines();
+    for (const LogTracer::struLine &line : lines)
+        _showLine(line);
+}
+
+void LogDock::_showLine(const LogTracer::struLine &line)
+{
+    // Appending plain text scrolls along only if the end is in sight.
+    m_view->appendPlainText(line.time + QLatin1String("  ") + shortOrigin(line.origin) + QLatin1String("  ") +
+                            line.text);
+    QTextCursor cursor(m_view->document()->lastBlock());
+    cursor.select(QTextCursor::BlockUnderCursor);
+    QTextCharFormat format;
+    format.setForeground(colourOf(line.level, palette()));
+    cursor.mergeCharFormat(format);
+}
+
+} // namespace BandMonitor

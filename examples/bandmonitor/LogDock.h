@@ -1,0 +1,32 @@
+// SPDX-FileCopyrightText: 2026 The PYXRuntime developers
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "LogTracer.h"
+
+#include <QtWidgets/QDockWidget>
+
+class QPlainTextEdit;
+
+namespace BandMonitor {
+
+/** Shows what the library and the program trace, as long as it lives. */
+class LogDock final : public QDockWidget
+{
+    Q_OBJECT
+public:
+    /** The oldest lines beyond so many are removed. */
+    static constexpr int MaximumLines = 2000;
+
+    explicit LogDock(QWidget *parent = nullptr);
+    ~LogDock() override;
+
+private:
+    void _showLines();
+    void _showLine(const LogTracer::struLine &line);
+
+    LogTracer m_tracer;
+    QPlainTextEdit *m_view;
+};
+
+} // namespace BandMonitor

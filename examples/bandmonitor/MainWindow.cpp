@@ -1,0 +1,318 @@
+// SPDX-FileCopyrightText: 2026 The PYXRuntime developers
+// SPDX-License-Identifier: BSD-3-Clause
+#include "MainWindow.h"
+
+#include "BandGenerator.h"
+#include "Colours.h"
+#include "DetectionModel.h"
+#include "HeadlessRun.h"
+#include "LogDock.h"
+#include "SignalMonitor.h"
+#include "SpectrumView.h"
+#include "Units.h"
+#include "WaterfallView.h"
+#include "WavReader.h"
+
+#include <PYXTraceWrapper.h>
+
+#include <QtCore/QSortFilterProxyModel>
+#include <QtWidgets/QAction>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QComboBox>
+#include <QtWidgets/QFileDialog>
+#include <QtWidgets/QHeaderView>
+#include <QtWidgets/QLabel>
+#include <QtWidgets/QMenuBar>
+#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QSplitter>
+#include <QtWidgets/QStatusBar>
+#include <QtWidgets/QStyle>
+#include <QtWidgets/QTableView>
+#include <QtWidgets/QToolBar>
+
+#include <algorithm>
+#include <cmath>
+
+namespace BandMonitor {
+namespace {
+
+const char TraceFile[] = "bandmonitor\\MainWindow";
+
+constexpr int TickInterval = 40; // in ms
+// A tick that takes longer would make the window sluggish: the recording is played slower then.
+constexpr int LongestTick = 30;         // in ms
+constexpr double LongestStep = 0.25;    // in seconds of wall clock
+constexpr double ProcessingStep = 0.02; // in seconds of the recording
+
+constexpr double RangeBelowFloor = 10; // in dB
+constexpr double RangeStep = 10;       // in dB
+
+} // namespace
+
+MainWindow::MainWindow(QWidget *parent)
+    : QMainWindow(parent)
+{
+    setObjectName(QStringLiteral("mainWindow"));
+    setWindowTitle(QApplication::applicationName());
+    _createViews();
+    _createTable();
+    auto *const logDock = new LogDock(this);
+    addDockWidget(Qt::BottomDockWidgetArea, logDock);
+    _createActions();
+    _createViewMenu();
+    _createStatusBar();
+    resize(1280, 800);
+    auto *const tableDock = findChild<QDockWidget *>(QStringLiteral("detectionDock"));
+    resizeDocks({tableDock, logDock}, {600, 600}, Qt::Horizontal);
+    resizeDocks({tableDock, logDock}, {220, 220}, Qt::Vertical);
+    m_playTimer.setInterval(TickInterval);
+    connect(&m_playTimer, &QTimer::timeout, this, &MainWindow::_sl_playTimer_timeout);
+}
+
+MainWindow::~MainWindow() = default;
+
+void MainWindow::_createViews()
+{
+    m_axis = new FrequencyAxis(this);
+    m_spectrumView = new SpectrumView(m_axis);
+    m_waterfallView = new WaterfallView(m_axis);
+    auto *const splitter = new QSplitter(Qt::Vertical);
+    splitter->addWidget(m_spectrumView);
+    splitter->addWidget(m_waterfallView);
+    splitter->setChildrenCollapsible(false);
+    setCentralWidget(splitter);
+}
+
+void MainWindow::_createTable()
+{
+    m_detections = new DetectionModel(this);
+    m_sortedDetections = new QSortFilterProxyModel(this);
+    m_sortedDetections->setSourceModel(m_detections);
+    m_sortedDetections->setSortRole(DetectionModel::SortRole);
+
+    m_table = new QTableView;
+    m_table->setObjectName(QStringLiteral("detectionTable"));
+    m_table->setModel(m_sortedDetections);
+    m_table->setSortingEnabled(true);
+    m_table->sortByColumn(DetectionModel::ekColumn_Frequency, Qt::AscendingOrder);
+    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_table->setAlternatingRowColors(true);
+    m_table->setShowGrid(false);
+    m_table->setFrameShape(QFrame::NoFrame);
+    m_table->setIconSize({8, 8});
+    m_table->verticalHeader()->hide();
+    m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() + 6);
+    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    m_table->horizontalHeader()->setHighlightSections(false);
+    connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &MainWindow::_sl_table_selectionChanged);
+
+    auto *const dock = new QDockWidget(tr("Signals"), this);
+    dock->setObjectName(QStringLiteral("detectionDock"));
+    dock->setWidget(m_table);
+    addDockWidget(Qt::BottomDockWidgetArea, dock);
+}
+
+void MainWindow::_createActions()
+{
+    auto *const openAction =
+        new QAction(style()->standardIcon(QStyle::SP_DialogOpenButton), tr("&Open..."), this);
+    openAction->setShortcut(QKeySequence::Open);
+    connect(openAction, &QAction::triggered, this, &MainWindow::_sl_openAction_triggered);
+    auto *const bandAction =
+        new QAction(style()->standardIcon(QStyle::SP_MediaVolume), tr("Own &Band"), this);
+    connect(bandAction, &QAction::triggered, this, &MainWindow::openOwnBand);
+    m_playAction = new QAction(this);
+    m_playAction->setObjectName(QStringLiteral("playAction"));
+    m_playAction->setShortcut(Qt::Key_Space);
+    connect(m_playAction, &QAction::triggered, this, [this] { setPlaying(!m_playTimer.isActive()); });
+
+    m_speedBox = new QComboBox;
+    for (const double speed : {0.5, 1.0, 2.0, 4.0, 8.0, 16.0})
+        m_speedBox->addItem(tr("%1\u00d7").arg(speed), speed);
+    m_speedBox->setCurrentIndex(1);
+    m_speedBox->setToolTip(tr("Speed"));
+    m_speedBox->setAccessibleName(tr("Speed"));
+
+    QMenu *const fileMenu = menuBar()->addMenu(tr("&File"));
+    fileMenu->addActions({openAction, bandAction});
+    fileMenu->addSeparator();
+    fileMenu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence::Quit);
+    menuBar()->addMenu(tr("&Play"))->addAction(m_playAction);
+
+    QToolBar *const toolBar = addToolBar(tr("Playing"));
+    toolBar->setObjectName(QStringLiteral("playToolBar"));
+    toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    toolBar->setMovable(false);
+    toolBar->addActions({openAction, bandAction, m_playAction});
+    toolBar->addWidget(m_speedBox);
+}
+
+void MainWindow::_createViewMenu()
+{
+    QMenu *const viewMenu = menuBar()->addMenu(tr("&View"));
+    viewMenu->addAction(tr("Whole &Band"), m_axis, &FrequencyAxis::showBand);
+    m_darkAction = viewMenu->addAction(tr("&Dark Colours"));
+    m_darkAction->setCheckable(true);
+    connect(m_darkAction, &QAction::toggled, this, &MainWindow::setDark);
+    viewMenu->addSeparator();
+    for (QDockWidget *const dock : findChildren<QDockWidget *>())
+        viewMenu->addAction(dock->toggleViewAction());
+}
+
+void MainWindow::_createStatusBar()
+{
+    m_sourceLabel = new QLabel;
+    m_noiseLabel = new QLabel;
+    m_timeLabel = new QLabel;
+    m_sourceLabel->setContentsMargins(6, 0, 6, 0);
+    m_timeLabel->setContentsMargins(6, 0, 6, 0);
+    statusBar()->addWidget(m_sourceLabel, 1);
+    statusBar()->addPermanentWidget(m_noiseLabel);
+    statusBar()->addPermanentWidget(m_timeLabel);
+}
+
+void MainWindow::setDark(bool bDark)
+{
+    m_darkAction->setChecked(bDark);
+    QApplication::setPalette(bDark ? darkPalette() : QApplication::style()->standardPalette());
+}
+
+bool MainWindow::openRecording(const QString &path)
+{
+    QString error;
+    std::unique_ptr<SampleSource> recording = WavReader::open(path, &error);
+    if (!recording) {
+        PYXRuntime::PYXTraceWrapper::staticTraceError(error, TraceFile, __LINE__);
+        auto *const box = new QMessageBox(QMessageBox::Warning, QApplication::applicationName(),
+                                          tr("This recording cannot be opened."), QMessageBox::Ok, this);
+        box->setInformativeText(error);
+        box->setAttribute(Qt::WA_DeleteOnClose);
+        box->open();
+        return false;
+    }
+    m_path = path;
+    _setSource(std::move(recording));
+    return true;
+}
+
+void MainWindow::openOwnBand()
+{
+    m_path.clear();
+    _setSource(std::make_unique<BandGenerator>(BandGenerator::ownBand()));
+}
+
+void MainWindow::_restart()
+{
+    if (m_path.isEmpty())
+        openOwnBand();
+    else
+        openRecording(m_path);
+}
+
+void MainWindow::_setSource(std::unique_ptr<SampleSource> source)
+{
+    m_monitor = std::make_unique<SignalMonitor>(std::move(source));
+    connect(m_monitor.get(), &SignalMonitor::si_spectrum, this, &MainWindow::_showSpectrum);
+    const SampleSource &opened = m_monitor->source();
+    m_axis->setBand(opened.isComplex() ? -opened.sampleRate() / 2 : 0, opened.sampleRate() / 2);
+    m_levelRange = {};
+    m_spectrumView->clear();
+    m_waterfallView->clear();
+    m_detections->setDetections({});
+    PYXRuntime::PYXTraceWrapper::staticTraceInfo(tr("%1: %2").arg(opened.name(), sourceText(opened)),
+                                                 TraceFile, __LINE__);
+    m_sourceLabel->setText(opened.name() + QStringLiteral("   ") + sourceText(opened));
+    setWindowTitle(opened.name() + QLatin1String(" - ") + QApplication::applicationName());
+    setPlaying(true);
+}
+
+void MainWindow::setPlaying(bool bPlaying)
+{
+    if (bPlaying && m_monitor && m_monitor->isAtEnd()) {
+        _restart();
+        return;
+    }
+    if (bPlaying) {
+        m_sinceTick.start();
+        m_playTimer.start();
+    } else {
+        m_playTimer.stop();
+    }
+    m_playAction->setText(bPlaying ? tr("&Pause") : tr("&Play"));
+    m_playAction->setIcon(style()->standardIcon(bPlaying ? QStyle::SP_MediaPause : QStyle::SP_MediaPlay));
+    _showState();
+}
+
+void MainWindow::playToEnd()
+{
+    while (m_monitor->advance(1) &&
+           (m_monitor->source().duration() > 0 || m_monitor->time() < UnattendedTime))
+        continue;
+    setPlaying(false);
+    _showDetections();
+}
+
+void MainWindow::_sl_openAction_triggered()
+{
+    const QString path = QFileDialog::getOpenFileName(this, tr("Open Recording"), m_path,
+                                                      tr("Recordings (*.wav);;All files (*)"));
+    if (!path.isEmpty())
+        openRecording(path);
+}
+
+void MainWindow::_sl_playTimer_timeout()
+{
+    const double elapsed = std::min(double(m_sinceTick.restart()) / 1000, LongestStep);
+    double due = elapsed * m_speedBox->currentData().toDouble();
+    while (due > 0 && m_sinceTick.elapsed() < LongestTick) {
+        const double step = std::min(due, ProcessingStep);
+        due -= step;
+        if (!m_monitor->advance(step)) {
+            setPlaying(false);
+            break;
+        }
+    }
+    _showDetections();
+}
+
+void MainWindow::_sl_table_selectionChanged()
+{
+    const QModelIndexList rows = m_table->selectionModel()->selectedRows();
+    const int row = rows.isEmpty() ? -1 : m_sortedDetections->mapToSource(rows.first()).row();
+    m_spectrumView->setSelected(row < 0 ? 0 : m_detections->detections()[std::size_t(row)].id);
+}
+
+void MainWindow::_showSpectrum(const struSpectrum &spectrum)
+{
+    const SignalDetector &detector = m_monitor->detector();
+    m_spectrumView->setSpectrum(spectrum, detector.threshold());
+    m_waterfallView->addSpectrum(spectrum);
+    // The range follows the noise in steps, so that it does not jump about.
+    const double wanted = detector.noiseFloor() - RangeBelowFloor;
+    if (std::abs(m_levelRange.low - wanted) > RangeStep) {
+        m_levelRange.low = std::clamp(std::round(wanted / RangeStep) * RangeStep, -150.0, -20.0);
+        m_spectrumView->setLevelRange(m_levelRange);
+        m_waterfallView->setLevelRange(m_levelRange);
+    }
+}
+
+void MainWindow::_showDetections()
+{
+    m_detections->setDetections(m_monitor->detector().detections());
+    m_spectrumView->setDetections(m_detections->detections());
+    _showState();
+}
+
+void MainWindow::_showState()
+{
+    const double duration = m_monitor->source().duration();
+    const QString time = timeText(m_monitor->time());
+    m_timeLabel->setText(duration > 0 ? tr("%1 of %2").arg(time, timeText(duration)) : time);
+    m_noiseLabel->setText(m_monitor->time() > 0
+                              ? tr("Noise %1").arg(levelText(m_monitor->detector().noiseFloor()))
+                              : QString());
+}
+
+} // namespace BandMonitor

@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 The PYXRuntime developers
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "ColourMap.h"
+#include "SampleSource.h"
+#include "Spectrum.h"
+
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QTimer>
+#include <QtWidgets/QMainWindow>
+
+#include <memory>
+
+class QComboBox;
+class QLabel;
+class QSortFilterProxyModel;
+class QTableView;
+
+namespace BandMonitor {
+
+class DetectionModel;
+class FrequencyAxis;
+class SignalMonitor;
+class SpectrumView;
+class WaterfallView;
+
+/** The window: plays a recording or the program's own band and shows what is in it. */
+class MainWindow final : public QMainWindow
+{
+    Q_OBJECT
+public:
+    explicit MainWindow(QWidget *parent = nullptr);
+    ~MainWindow() override;
+
+    /** Shows a message and goes on with what is played already where the file is no recording. */
+    bool openRecording(const QString &path);
+    void openOwnBand();
+    void setPlaying(bool bPlaying);
+    /** Processes the whole recording, or some seconds of the own band, without a pause. */
+    void playToEnd();
+    void setDark(bool bDark);
+
+    const SignalMonitor *monitor() const { return m_monitor.get(); }
+
+private:
+    void _createViews();
+    void _createTable();
+    void _createActions();
+    void _createViewMenu();
+    void _createStatusBar();
+    void _setSource(std::unique_ptr<SampleSource> source);
+    void _restart();
+    void _showSpectrum(const struSpectrum &spectrum);
+    void _showDetections();
+    void _showState();
+    void _sl_openAction_triggered();
+    void _sl_playTimer_timeout();
+    void _sl_table_selectionChanged();
+
+    std::unique_ptr<SignalMonitor> m_monitor;
+    QString m_path; ///< of the recording; empty for the own band
+    QTimer m_playTimer;
+    QElapsedTimer m_sinceTick;
+    struLevelRange m_levelRange;
+
+    FrequencyAxis *m_axis = nullptr;
+    SpectrumView *m_spectrumView = nullptr;
+    WaterfallView *m_waterfallView = nullptr;
+    DetectionModel *m_detections = nullptr;
+    QSortFilterProxyModel *m_sortedDetections = nullptr;
+    QTableView *m_table = nullptr;
+    QAction *m_playAction = nullptr;
+    QAction *m_darkAction = nullptr;
+    QComboBox *m_speedBox = nullptr;
+    QLabel *m_sourceLabel = nullptr;
+    QLabel *m_noiseLabel = nullptr;
+    QLabel *m_timeLabel = nullptr;
+};
+
+} // namespace BandMonitor

@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: 2026 The PYXRuntime developers
+// SPDX-License-Identifier: BSD-3-Clause
+#include "SignalMonitor.h"
+
+#include "Units.h"
+
+#include <PYXRuntimeCenter.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace BandMonitor {
+namespace {
+
+constexpr std::size_t BlockSize = 16384;
+
+// Switched on by the line "BandMonitor:+d" in config/pyxRuntimeScopes.cfg beside the program; the line
+// "*:+td" leads the messages into the log as well.
+const uint s_scope = PYXRuntime::PYXRuntimeCenter::registerRuntimeScope(
+    QStringLiteral("BandMonitor"), QStringLiteral("State of the signal detector, once a second"));
+
+} // namespace
+
+SignalMonitor::SignalMonitor(std::unique_ptr<SampleSource> source, QObject *parent)
+    : QObject(parent)
+    , m_source(std::move(source))
+    , m_analyzer(m_source->sampleRate(), m_source->isComplex())
+    , m_block(BlockSize)
+{}
+
+double SignalMonitor::time() const
+{
+    return double(m_samplesRead) / m_source->sampleRate();
+}
+
+bool SignalMonitor::advance(double seconds)
+{
+    m_samplesDue += seconds * m_source->sampleRate();
+    while (!m_bAtEnd && m_samplesDue >= 1) {
+        const std::size_t wanted = std::min(BlockSize, std::size_t(m_samplesDue));
+        const std::size_t count = m_source->read(m_block.data(), wanted);
+        m_samplesRead += qint64(count);
+        m_samplesDue -= double(count);
+        _process(m_analyzer.feed(m_block.data(), count));
+        m_bAtEnd = count < wanted;
+    }
+    if (m_bAtEnd)
+        _process(m_analyzer.finish());
+    return !m_bAtEnd;
+}
+
+void SignalMonitor::_process(const std::vector<struSpectrum> &spectra)
+{
+    for (const struSpectrum &spectrum : spectra) {
+        const double before = std::floor(m_lastTime);
+        m_lastTime = spectrum.time;
+        m_detector.process(spectrum);
+        if (std::floor(spectrum.time) > before)
+            _describe(spectrum.time);
+        Q_EMIT si_spectrum(spectrum);
+    }
+}
+
+void SignalMonitor::_describe(double time) const
+{
+    const auto text = [&] {
+        const std::vector<struDetection> detections = m_detector.detections();
+        const auto onAir = std::count_if(detections.begin(), detections.end(),
+                                         [](const struDetection &detection) { return detection.bOnAir; });
+        return QStringLiteral("%1: noise floor %2, threshold %3, %4 signals, %5 on air")
+            .arg(timeText(time), levelText(m_detector.noiseFloor()), levelText(m_detector.threshold()),
+                 QString::number(detections.size()), QString::number(onAir));
+    };
+    PYX_DEBUG(s_scope, text());
+}
+
+} // namespace BandMonitor

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The PYXRuntime developers
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include "SampleSource.h"
+#include "SignalDetector.h"
+#include "SpectrumAnalyzer.h"
+
+#include <QtCore/QObject>
+
+#include <memory>
+#include <vector>
+
+namespace BandMonitor {
+
+/** Leads the samples of a source through the analyzer and the detector. */
+class SignalMonitor final : public QObject
+{
+    Q_OBJECT
+public:
+    explicit SignalMonitor(std::unique_ptr<SampleSource> source, QObject *parent = nullptr);
+
+    const SampleSource &source() const { return *m_source; }
+    const SignalDetector &detector() const { return m_detector; }
+    /** How far the source has been read, in seconds. */
+    double time() const;
+    bool isAtEnd() const { return m_bAtEnd; }
+
+    /** Processes the next stretch of so many seconds. @return false at the end of the source. */
+    bool advance(double seconds);
+
+Q_SIGNALS:
+    void si_spectrum(const BandMonitor::struSpectrum &a_spectrum);
+
+private:
+    void _process(const std::vector<struSpectrum> &spectra);
+    void _describe(double time) const;
+
+    std::unique_ptr<SampleSource> m_source;
+    SpectrumAnalyzer m_analyzer;
+    SignalDetector m_detector;
+    std::vector<Sample> m_block;
+    qint64 m_samplesRead = 0;
+    double m_samplesDue = 0;
+    double m_lastTime = 0; ///< of a spectrum, in seconds
+    bool m_bAtEnd = false;
+};
+
+} // namespace BandMonitor
