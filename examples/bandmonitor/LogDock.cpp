@@ -6,7 +6,7 @@
 
 #include <PYXTraceWrapper.h>
 
-#include <QtGui/QTextCharFormat>
+#include <QtGui/QTextBlock>
 #include <QtGui/QTextCursor>
 #include <QtWidgets/QPlainTextEdit>
 
@@ -49,6 +49,7 @@ LogDock::LogDock(QWidget *parent)
     m_view->setReadOnly(true);
     m_view->setMaximumBlockCount(MaximumLines);
     m_view->setFrameShape(QFrame::NoFrame);
+    m_view->setFont(smallerFont(font()));
     setWidget(m_view);
     // Traces come in any thread; the dock lives in the one of the windows.
     connect(&m_tracer, &LogTracer::si_linesWaiting, this, &LogDock::_showLines, Qt::QueuedConnection);

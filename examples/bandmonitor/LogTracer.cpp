@@ -28,7 +28,7 @@ QVector<LogTracer::struLine> LogTracer::takeLines()
 
 void LogTracer::_add(eLevel level, const QString &text, const char *file)
 {
-    const struLine line{level, QTime::currentTime().toString(QStringLiteral("HH:mm:ss.zzz")),
+    const struLine line{level, QTime::currentTime().toString(QStringLiteral("HH:mm:ss")),
                         QString::fromLatin1(file), text};
     bool bFirst = false;
     {

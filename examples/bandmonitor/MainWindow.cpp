@@ -7,8 +7,10 @@
 #include "DetectionModel.h"
 #include "HeadlessRun.h"
 #include "LogDock.h"
+#include "Scale.h"
 #include "SignalMonitor.h"
 #include "SpectrumView.h"
+#include "SymbolIcon.h"
 #include "Units.h"
 #include "WaterfallView.h"
 #include "WavReader.h"
@@ -16,6 +18,7 @@
 #include <PYXTraceWrapper.h>
 
 #include <QtCore/QSortFilterProxyModel>
+#include <QtGui/QShowEvent>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
@@ -44,6 +47,10 @@ constexpr int LongestTick = 30;         // in ms
 constexpr double LongestStep = 0.25;    // in seconds of wall clock
 constexpr double ProcessingStep = 0.02; // in seconds of the recording
 
+// How the window is divided at first.
+constexpr double TableShare = 0.62;
+constexpr double DockShare = 0.27;
+
 constexpr double RangeBelowFloor = 10; // in dB
 constexpr double RangeStep = 10;       // in dB
 
@@ -56,20 +63,27 @@ MainWindow::MainWindow(QWidget *parent)
     setWindowTitle(QApplication::applicationName());
     _createViews();
     _createTable();
-    auto *const logDock = new LogDock(this);
-    addDockWidget(Qt::BottomDockWidgetArea, logDock);
+    addDockWidget(Qt::BottomDockWidgetArea, new LogDock(this));
     _createActions();
     _createViewMenu();
     _createStatusBar();
     resize(1280, 800);
-    auto *const tableDock = findChild<QDockWidget *>(QStringLiteral("detectionDock"));
-    resizeDocks({tableDock, logDock}, {600, 600}, Qt::Horizontal);
-    resizeDocks({tableDock, logDock}, {220, 220}, Qt::Vertical);
     m_playTimer.setInterval(TickInterval);
     connect(&m_playTimer, &QTimer::timeout, this, &MainWindow::_sl_playTimer_timeout);
 }
 
 MainWindow::~MainWindow() = default;
+
+void MainWindow::showEvent(QShowEvent *event)
+{
+    QMainWindow::showEvent(event);
+    if (event->spontaneous() || m_bArranged)
+        return;
+    m_bArranged = true;
+    const QList<QDockWidget *> docks = findChildren<QDockWidget *>();
+    resizeDocks(docks, {int(width() * TableShare), int(width() * (1 - TableShare))}, Qt::Horizontal);
+    resizeDocks(docks, {int(height() * DockShare), int(height() * DockShare)}, Qt::Vertical);
+}
 
 void MainWindow::_createViews()
 {
@@ -92,6 +106,8 @@ void MainWindow::_createTable()
 
     m_table = new QTableView;
     m_table->setObjectName(QStringLiteral("detectionTable"));
+    m_table->setFont(smallerFont(font()));
+    m_table->horizontalHeader()->setFont(m_table->font());
     m_table->setModel(m_sortedDetections);
     m_table->setSortingEnabled(true);
     m_table->sortByColumn(DetectionModel::ekColumn_Frequency, Qt::AscendingOrder);
@@ -104,6 +120,8 @@ void MainWindow::_createTable()
     m_table->verticalHeader()->hide();
     m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() + 6);
     m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    m_table->horizontalHeader()->setSectionResizeMode(DetectionModel::ekColumn_Frequency,
+                                                      QHeaderView::ResizeToContents);
     m_table->horizontalHeader()->setHighlightSections(false);
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &MainWindow::_sl_table_selectionChanged);
@@ -116,12 +134,10 @@ void MainWindow::_createTable()
 
 void MainWindow::_createActions()
 {
-    auto *const openAction =
-        new QAction(style()->standardIcon(QStyle::SP_DialogOpenButton), tr("&Open..."), this);
+    auto *const openAction = new QAction(symbolIcon(ekSymbol_Open), tr("&Open..."), this);
     openAction->setShortcut(QKeySequence::Open);
     connect(openAction, &QAction::triggered, this, &MainWindow::_sl_openAction_triggered);
-    auto *const bandAction =
-        new QAction(style()->standardIcon(QStyle::SP_MediaVolume), tr("Own &Band"), this);
+    auto *const bandAction = new QAction(symbolIcon(ekSymbol_OwnBand), tr("Own &Band"), this);
     connect(bandAction, &QAction::triggered, this, &MainWindow::openOwnBand);
     m_playAction = new QAction(this);
     m_playAction->setObjectName(QStringLiteral("playAction"));
@@ -145,6 +161,7 @@ void MainWindow::_createActions()
     toolBar->setObjectName(QStringLiteral("playToolBar"));
     toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     toolBar->setMovable(false);
+    toolBar->setIconSize({18, 18});
     toolBar->addActions({openAction, bandAction, m_playAction});
     toolBar->addWidget(m_speedBox);
 }
@@ -241,7 +258,7 @@ void MainWindow::setPlaying(bool bPlaying)
         m_playTimer.stop();
     }
     m_playAction->setText(bPlaying ? tr("&Pause") : tr("&Play"));
-    m_playAction->setIcon(style()->standardIcon(bPlaying ? QStyle::SP_MediaPause : QStyle::SP_MediaPlay));
+    m_playAction->setIcon(symbolIcon(bPlaying ? ekSymbol_Pause : ekSymbol_Play));
     _showState();
 }
 

@@ -43,6 +43,9 @@ public:
 
     const SignalMonitor *monitor() const { return m_monitor.get(); }
 
+protected:
+    void showEvent(QShowEvent *event) override;
+
 private:
     void _createViews();
     void _createTable();
@@ -62,6 +65,7 @@ private:
     QString m_path; ///< of the recording; empty for the own band
     QTimer m_playTimer;
     QElapsedTimer m_sinceTick;
+    bool m_bArranged = false; ///< whether the docks have got their first sizes
     struLevelRange m_levelRange;
 
     FrequencyAxis *m_axis = nullptr;

@@ -13,7 +13,7 @@
 namespace BandMonitor {
 namespace {
 
-constexpr double Margin = 10;
+constexpr double Margin = 14;
 constexpr double TickLength = 4;
 constexpr double ZoomPerNotch = 0.8;
 constexpr double WheelNotch = 120; // in eighths of a degree
@@ -30,13 +30,6 @@ PlotView::PlotView(FrequencyAxis *axis, QWidget *parent)
 QSize PlotView::minimumSizeHint() const
 {
     return {320, 110};
-}
-
-QFont PlotView::labelFont() const
-{
-    QFont smaller = font();
-    smaller.setPointSizeF(smaller.pointSizeF() * 0.9);
-    return smaller;
 }
 
 QColor PlotView::textColour() const

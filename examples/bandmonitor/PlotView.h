@@ -4,6 +4,7 @@
 
 #include "ColourMap.h"
 #include "FrequencyAxis.h"
+#include "Scale.h"
 
 #include <QtWidgets/QWidget>
 
@@ -28,7 +29,7 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent *event) override;
 
     const FrequencyAxis &axis() const { return *m_axis; }
-    QFont labelFont() const;
+    QFont labelFont() const { return smallerFont(font()); }
     /** Without the margins of the axes; its edges are those of device pixels. */
     QRectF plotRect() const;
     /** Draws one line of the grid at a height, with its label in the left margin. */

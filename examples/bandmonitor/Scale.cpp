@@ -38,6 +38,12 @@ QColor mixed(const QColor &first, const QColor &second, double share)
                             mix(first.blueF(), second.blueF()));
 }
 
+QFont smallerFont(QFont font)
+{
+    font.setPointSizeF(font.pointSizeF() * 0.9);
+    return font;
+}
+
 double sharp(const QPainter &painter, double coordinate)
 {
     const double ratio = painter.device()->devicePixelRatioF();

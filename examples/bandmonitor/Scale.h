@@ -4,6 +4,7 @@
 
 #include <QtCore/QRectF>
 #include <QtGui/QColor>
+#include <QtGui/QFont>
 
 #include <vector>
 
@@ -18,6 +19,8 @@ std::vector<double> ticks(double low, double high, double step);
 
 /** A mixture of two colours; @p share of the second one, from 0 to 1. */
 QColor mixed(const QColor &first, const QColor &second, double share);
+/** For what stands beside the main thing: labels of axes, tables, logs. */
+QFont smallerFont(QFont font);
 /** The middle of the device pixel that a coordinate falls into, so that a thin line is drawn sharp. */
 double sharp(const QPainter &painter, double coordinate);
 

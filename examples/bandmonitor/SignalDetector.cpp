@@ -25,12 +25,15 @@ constexpr float UnknownBelow = 0.05F;
 
 // Free bins between occupied ones that still make one signal: the lines of a voice are that far apart.
 constexpr int LargestGap = 16;
+// The outermost lines of a modulated signal come and go; they are not far out for a wide one.
+constexpr double LargestGapShare = 0.25;
 // The window spreads a carrier over so many bins to either side.
 constexpr int WindowReach = 3;
 constexpr double OccupiedShare = 0.99;
 // A modulated signal is narrow in its pauses: its place shrinks slowly.
 constexpr double ShrinkWeight = 0.01;
 constexpr double SmallestMeanWeight = 0.06;
+constexpr int LongestFragment = 8; // in spectra on air
 // A band with more signals than this is noise of a kind that we do not understand.
 constexpr std::size_t MaximumTracks = 500;
 
@@ -50,6 +53,7 @@ void SignalDetector::process(const struSpectrum &spectrum)
         _assign(region);
     for (struTrack &track : m_tracks)
         _update(track, spectrum);
+    _dropFragments();
 }
 
 std::vector<struDetection> SignalDetector::detections() const
@@ -98,20 +102,23 @@ std::vector<SignalDetector::struRegion> SignalDetector::_occupiedRegions() const
     return regions;
 }
 
-/** The signal that a region belongs to: the one that it shares most bins with, or else a new one. */
+/** The signal that a region belongs to: the nearest that is not too far away, or else a new one. */
 SignalDetector::struTrack &SignalDetector::_trackFor(const struRegion &region)
 {
     struTrack *best = nullptr;
-    double bestOverlap = 0;
+    double bestGap = 0;
     for (struTrack &track : m_tracks) {
-        const double overlap = std::min(track.last, double(region.last)) -
-                               std::max(track.first, double(region.first)) + 2 * WindowReach;
+        // Below zero: by how much they overlap.
+        const double gap =
+            std::max(track.first, double(region.first)) - std::min(track.last, double(region.last));
+        const double width = track.last - track.first;
+        if (gap > std::max(width * LargestGapShare, double(LargestGap)))
+            continue;
         // Where a wide signal was over a narrow one, the narrow one keeps its place.
-        const bool bNarrower =
-            best != nullptr && overlap >= bestOverlap && track.last - track.first < best->last - best->first;
-        if (overlap > bestOverlap || bNarrower) {
+        const bool bNarrower = best != nullptr && gap <= bestGap && width < best->last - best->first;
+        if (best == nullptr || gap < bestGap || bNarrower) {
             best = &track;
-            bestOverlap = overlap;
+            bestGap = gap;
         }
     }
     if (best != nullptr)
@@ -152,6 +159,20 @@ void SignalDetector::_update(struTrack &track, const struSpectrum &spectrum)
     track.detection.lastSeen = spectrum.time;
     _average(track, measured, spectrum);
     _measure(track.detection, measured, spectrum);
+}
+
+/** A signal that has just begun may be found in parts, until the widest of them covers the others. */
+void SignalDetector::_dropFragments()
+{
+    const auto isFragment = [this](const struTrack &track) {
+        return track.spectra < LongestFragment &&
+               std::any_of(m_tracks.begin(), m_tracks.end(), [&](const struTrack &other) {
+                   return other.first < track.first && other.last > track.last;
+               });
+    };
+    const auto fragment = std::find_if(m_tracks.begin(), m_tracks.end(), isFragment);
+    if (fragment != m_tracks.end())
+        m_tracks.erase(fragment);
 }
 
 SignalDetector::struRegion SignalDetector::_measuredRegion(const struRegion &region) const

@@ -73,6 +73,7 @@ private:
     void _assign(const struRegion &region);
     struTrack &_trackFor(const struRegion &region);
     void _update(struTrack &track, const struSpectrum &spectrum);
+    void _dropFragments();
     void _average(struTrack &track, const struRegion &region, const struSpectrum &spectrum);
     void _measure(struDetection &detection, const struRegion &region, const struSpectrum &spectrum) const;
     struRegion _measuredRegion(const struRegion &region) const;

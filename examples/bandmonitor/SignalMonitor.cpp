@@ -67,9 +67,9 @@ void SignalMonitor::_describe(double time) const
         const std::vector<struDetection> detections = m_detector.detections();
         const auto onAir = std::count_if(detections.begin(), detections.end(),
                                          [](const struDetection &detection) { return detection.bOnAir; });
-        return QStringLiteral("%1: noise floor %2, threshold %3, %4 signals, %5 on air")
-            .arg(timeText(time), levelText(m_detector.noiseFloor()), levelText(m_detector.threshold()),
-                 QString::number(detections.size()), QString::number(onAir));
+        return QStringLiteral("%1: noise floor %2, %3 signals, %4 on air")
+            .arg(timeText(time), levelText(m_detector.noiseFloor()), QString::number(detections.size()),
+                 QString::number(onAir));
     };
     PYX_DEBUG(s_scope, text());
 }

@@ -16,7 +16,8 @@ namespace {
 
 constexpr double ColourStripWidth = 6;
 constexpr double LabelPadding = 4;
-constexpr double LevelLabelSpacing = 2.0; // in heights of the text
+constexpr int LabelRows = 2;
+constexpr double LevelLabelSpacing = 1.3; // in heights of the text
 // Blue and orange are told apart by nearly everybody, on light and on dark ground.
 constexpr QRgb CurveOnLight = qRgb(0x1f, 0x6f, 0xb5);
 constexpr QRgb CurveOnDark = qRgb(0x6c, 0xb8, 0xf5);
@@ -151,41 +152,58 @@ void SpectrumView::_paintCurve(QPainter &painter, const QRectF &plot) const
     painter.drawPolyline(curve);
 }
 
-void SpectrumView::_paintDetections(QPainter &painter, const QRectF &plot) const
+/** Finds a place above each signal, in the first of the rows where it hides no other label. */
+std::vector<SpectrumView::struLabel> SpectrumView::_placeLabels(const QFontMetricsF &metrics,
+                                                                const QRectF &plot) const
 {
-    const QFontMetricsF metrics(painter.font());
-    const QColor colour = isDark(palette()) ? MarkOnDark : MarkOnLight;
-    std::vector<QRectF> taken;
+    std::vector<struLabel> labels;
     for (const struDetection &detection : m_detections) {
-        if (!detection.bOnAir && detection.id != m_selectedId)
+        const double x = axis().position(detection.frequency, plot);
+        if (!_isShown(detection) || x < plot.left() || x > plot.right())
             continue;
-        _paintDetection(painter, plot, detection);
         const QString text = frequencyText(detection.frequency);
         const double width = metrics.horizontalAdvance(text) + 2 * LabelPadding;
-        const double x = axis().position(detection.frequency, plot);
-        if (x < plot.left() || x > plot.right())
-            continue;
         const double left = std::clamp(x - width / 2, plot.left() + ColourStripWidth, plot.right() - width);
-        const QRectF label(left, plot.top() + 2, width, metrics.height());
-        if (std::any_of(taken.begin(), taken.end(),
-                        [&](const QRectF &other) { return other.intersects(label); }))
-            continue;
-        taken.push_back(label);
-        painter.setPen(colour);
-        painter.drawText(label, Qt::AlignCenter, text);
+        QRectF place(left, plot.top() + 2, width, metrics.height());
+        const auto isTaken = [&](const struLabel &other) { return other.place.intersects(place); };
+        for (int row = 0; row < LabelRows; ++row) {
+            if (std::none_of(labels.begin(), labels.end(), isTaken)) {
+                labels.push_back({place, text});
+                break;
+            }
+            place.translate(0, place.height());
+        }
     }
+    return labels;
 }
 
-void SpectrumView::_paintDetection(QPainter &painter, const QRectF &plot,
-                                   const struDetection &detection) const
+bool SpectrumView::_isShown(const struDetection &detection) const
+{
+    return detection.bOnAir || detection.id == m_selectedId;
+}
+
+void SpectrumView::_paintDetections(QPainter &painter, const QRectF &plot) const
+{
+    const std::vector<struLabel> labels = _placeLabels(QFontMetricsF(painter.font()), plot);
+    double top = plot.top();
+    for (const struLabel &label : labels)
+        top = std::max(top, label.place.bottom() + 2);
+    for (const struDetection &detection : m_detections) {
+        if (_isShown(detection))
+            _paintBand(painter, QRectF(QPointF(plot.left(), top), plot.bottomRight()), detection);
+    }
+    painter.setPen(isDark(palette()) ? MarkOnDark : MarkOnLight);
+    for (const struLabel &label : labels)
+        painter.drawText(label.place, Qt::AlignCenter, label.text);
+}
+
+void SpectrumView::_paintBand(QPainter &painter, const QRectF &area, const struDetection &detection) const
 {
     const QColor colour = isDark(palette()) ? MarkOnDark : MarkOnLight;
-    const double left = axis().position(detection.frequency - detection.bandwidth / 2, plot);
-    const double right = axis().position(detection.frequency + detection.bandwidth / 2, plot);
+    const double left = axis().position(detection.frequency - detection.bandwidth / 2, area);
+    const double right = axis().position(detection.frequency + detection.bandwidth / 2, area);
     const double width = std::max(right - left, 3.0);
-    const double labelHeight = QFontMetricsF(painter.font()).height() + 4;
-    const QRectF band((left + right - width) / 2, plot.top() + labelHeight, width,
-                      plot.height() - labelHeight);
+    const QRectF band((left + right - width) / 2, area.top(), width, area.height());
     const bool bSelected = detection.id == m_selectedId;
     painter.fillRect(band, translucent(colour, bSelected ? 0.45 : 0.18));
     painter.fillRect(QRectF(band.topLeft(), QSizeF(width, 2)), colour);

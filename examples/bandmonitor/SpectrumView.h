@@ -33,13 +33,21 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    struct struLabel
+    {
+        QRectF place;
+        QString text;
+    };
+
     QPolygonF _curve(const QRectF &plot) const;
     double _levelPosition(double level, const QRectF &plot) const;
     void _paintLevelAxis(QPainter &painter, const QRectF &plot, const QColor &gridColour) const;
     void _paintThreshold(QPainter &painter, const QRectF &plot) const;
     void _paintCurve(QPainter &painter, const QRectF &plot) const;
     void _paintDetections(QPainter &painter, const QRectF &plot) const;
-    void _paintDetection(QPainter &painter, const QRectF &plot, const struDetection &detection) const;
+    void _paintBand(QPainter &painter, const QRectF &area, const struDetection &detection) const;
+    std::vector<struLabel> _placeLabels(const QFontMetricsF &metrics, const QRectF &plot) const;
+    bool _isShown(const struDetection &detection) const;
 
     struSpectrum m_spectrum;
     double m_threshold = 0;

@@ -77,6 +77,7 @@ int runHeadless(const QString &path)
 
 int saveScreenshot(MainWindow &window, const QString &path)
 {
+    QCoreApplication::processEvents(); // lays the window out and reads the configuration of the scopes
     window.playToEnd();
     QCoreApplication::processEvents();
     if (window.grab().save(path))
