@@ -120,8 +120,9 @@ void MainWindow::_createTable()
     m_table->verticalHeader()->hide();
     m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() + 6);
     m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    m_table->horizontalHeader()->setSectionResizeMode(DetectionModel::ekColumn_Frequency,
-                                                      QHeaderView::ResizeToContents);
+    m_table->horizontalHeader()->setSectionResizeMode(DetectionModel::ekColumn_Frequency, QHeaderView::Fixed);
+    m_table->setColumnWidth(DetectionModel::ekColumn_Frequency,
+                            m_table->fontMetrics().horizontalAdvance(QStringLiteral("-00000.000 kHz")));
     m_table->horizontalHeader()->setHighlightSections(false);
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &MainWindow::_sl_table_selectionChanged);

@@ -20,7 +20,7 @@ QString tr(const char *text)
 /** Decimals are those for kHz; the other units have three more or less. */
 QString hertzText(double hertz, int decimals)
 {
-    const double size = std::abs(hertz);
+    const double size = std::round(std::abs(hertz)); // 999.9 Hz is shown as 1 kHz
     const QLocale locale;
     if (size >= 1e6)
         return locale.toString(hertz / 1e6, 'f', decimals + 3) + QLatin1String(" MHz");

@@ -26,7 +26,7 @@ make() {
     level=$2
     shift 2
     # -R: the same noise every time
-    sox -R -V1 -n -r 48000 -c 1 -e floating-point -b 32 "$parts/$name.wav" synth "$@" gain "$level"
+    sox -R -V1 -r 48000 -n -c 1 -e floating-point -b 32 "$parts/$name.wav" synth "$@" gain "$level"
 }
 
 make carrier1 -32 $seconds sine 2500

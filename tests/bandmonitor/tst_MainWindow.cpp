@@ -1,0 +1,174 @@
+// SPDX-FileCopyrightText: 2026 The PYXRuntime developers
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "MainWindow.h"
+
+#include "DetectionModel.h"
+#include "LogDock.h"
+#include "SignalMonitor.h"
+
+#include "WavBytes.h"
+
+#include <PYXTraceWrapper.h>
+
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QtTest>
+#include <QtWidgets/QAction>
+#include <QtWidgets/QMessageBox>
+#include <QtWidgets/QPlainTextEdit>
+#include <QtWidgets/QTableView>
+
+#include <cmath>
+#include <thread>
+
+using namespace BandMonitor;
+using PYXRuntime::PYXTraceWrapper;
+
+namespace {
+
+/** Two seconds with tones at 1 and 3 kHz. */
+QByteArray recording()
+{
+    QByteArray samples;
+    for (int i = 0; i < 16000; ++i) {
+        const double phase = i * 6.283185307179586 / 8000;
+        samples += WavBytes::number16(int(3000 * std::sin(1000 * phase) + 300 * std::sin(3000 * phase)));
+    }
+    return WavBytes::riff(WavBytes::formatChunk(1, 1, 16, 8000) + WavBytes::chunk("data", samples));
+}
+
+QString logOf(const QWidget &parent)
+{
+    return parent.findChild<QPlainTextEdit *>(QStringLiteral("logView"))->toPlainText();
+}
+
+} // namespace
+
+class tst_MainWindow : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        m_path = m_directory.filePath(QStringLiteral("tones.wav"));
+        QVERIFY(WavBytes::write(m_path, recording()));
+    }
+    void showsWhatIsInARecording();
+    void playsInTime();
+    void complainsAboutWhatIsNoRecording();
+    void logsTracesOfOtherThreads();
+    void keepsTheLogBounded();
+    void unplugsTheLogWhenItGoes();
+    void keepsRowsOfKnownSignals();
+
+private:
+    QTemporaryDir m_directory;
+    QString m_path;
+};
+
+void tst_MainWindow::showsWhatIsInARecording()
+{
+    MainWindow window;
+    window.resize(800, 600);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(window.openRecording(m_path));
+    window.playToEnd();
+
+    const auto *const table = window.findChild<QTableView *>(QStringLiteral("detectionTable"));
+    const QAbstractItemModel &model = *table->model();
+    QCOMPARE(model.rowCount(), 2);
+    QVERIFY(model.index(0, 0).data().toString().startsWith(QStringLiteral("1.000")));
+    window.findChild<QTableView *>(QStringLiteral("detectionTable"))->sortByColumn(0, Qt::DescendingOrder);
+    QVERIFY(model.index(0, 0).data().toString().startsWith(QStringLiteral("3.000")));
+    QTRY_VERIFY(logOf(window).contains(QStringLiteral("tones.wav: 8 kHz real, 16 bit")));
+    QVERIFY(!window.grab().isNull());
+}
+
+void tst_MainWindow::playsInTime()
+{
+    MainWindow window;
+    QVERIFY(window.openRecording(m_path));
+    QTRY_VERIFY(window.monitor()->time() > 0.2);
+    window.setPlaying(false);
+    const double paused = window.monitor()->time();
+    QVERIFY(paused < 2);
+    auto *const play = window.findChild<QAction *>(QStringLiteral("playAction"));
+    play->trigger();
+    QTRY_VERIFY(window.monitor()->time() > paused);
+    window.playToEnd();
+    play->trigger(); // from the beginning again
+    QVERIFY(window.monitor()->time() < 2);
+}
+
+void tst_MainWindow::complainsAboutWhatIsNoRecording()
+{
+    MainWindow window;
+    window.openOwnBand();
+    const SignalMonitor *const before = window.monitor();
+    QVERIFY(!window.openRecording(m_directory.filePath(QStringLiteral("missing.wav"))));
+    const auto *const box = window.findChild<QMessageBox *>();
+    QVERIFY(box != nullptr);
+    QVERIFY(box->informativeText().contains(QStringLiteral("missing.wav")));
+    QCOMPARE(window.monitor(), before);
+}
+
+void tst_MainWindow::logsTracesOfOtherThreads()
+{
+    const LogDock dock;
+    std::thread thread(
+        [] { PYXTraceWrapper::staticTraceWarn(QStringLiteral("antenna lost"), "source\\Rotor", 7); });
+    thread.join();
+    QTRY_VERIFY(logOf(dock).contains(QStringLiteral("Rotor  antenna lost")));
+    QVERIFY(!logOf(dock).contains(QStringLiteral("source")));
+}
+
+void tst_MainWindow::keepsTheLogBounded()
+{
+    const LogDock dock;
+    const auto flood = [] {
+        for (int i = 0; i < 5 * LogDock::MaximumLines; ++i)
+            PYXTraceWrapper::staticTraceInfo(QString::number(i), nullptr, 0);
+    };
+    std::thread first(flood);
+    std::thread second(flood);
+    first.join();
+    second.join();
+    PYXTraceWrapper::staticTraceInfo(QStringLiteral("the end"), nullptr, 0);
+    QTRY_VERIFY(logOf(dock).contains(QStringLiteral("the end")));
+    QVERIFY(dock.findChild<QPlainTextEdit *>()->blockCount() <= LogDock::MaximumLines);
+}
+
+void tst_MainWindow::unplugsTheLogWhenItGoes()
+{
+    const int before = PYXTraceWrapper::tracers().size();
+    {
+        const LogDock dock;
+        QCOMPARE(PYXTraceWrapper::tracers().size(), before + 1);
+    }
+    QCOMPARE(PYXTraceWrapper::tracers().size(), before);
+}
+
+void tst_MainWindow::keepsRowsOfKnownSignals()
+{
+    DetectionModel model;
+    QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
+    QSignalSpy insertions(&model, &QAbstractItemModel::rowsInserted);
+    struDetection first;
+    first.id = 1;
+    struDetection second;
+    second.id = 2;
+    model.setDetections({first});
+    const QPersistentModelIndex row = model.index(0, DetectionModel::ekColumn_Level);
+    first.level = -12.5;
+    model.setDetections({first, second});
+    QCOMPARE(row.data().toString(), QStringLiteral("-12.5 dBFS"));
+    QCOMPARE(insertions.size(), 2);
+    QCOMPARE(resets.size(), 0);
+    model.setDetections({second});
+    QCOMPARE(resets.size(), 1);
+    QCOMPARE(model.rowCount(), 1);
+}
+
+QTEST_MAIN(tst_MainWindow)
+#include "tst_MainWindow.moc"

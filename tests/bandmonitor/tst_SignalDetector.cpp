@@ -1,0 +1,243 @@
+// SPDX-FileCopyrightText: 2026 The PYXRuntime developers
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "BandGenerator.h"
+#include "HeadlessRun.h"
+#include "SignalMonitor.h"
+#include "WavReader.h"
+
+#include "WavBytes.h"
+
+#include <QtCore/QProcess>
+#include <QtCore/QRegularExpression>
+#include <QtCore/QStandardPaths>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QtTest>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace BandMonitor;
+
+namespace {
+
+constexpr double SpectrumTime = 0.13; // in seconds, rounded up
+
+using Band = BandGenerator::struSettings;
+using Transmitter = BandGenerator::struTransmitter;
+
+std::vector<struDetection> detectionsOf(const Band &band, double seconds)
+{
+    SignalMonitor monitor(std::make_unique<BandGenerator>(band));
+    monitor.advance(seconds);
+    std::vector<struDetection> detections = monitor.detector().detections();
+    std::sort(detections.begin(), detections.end(),
+              [](const auto &a, const auto &b) { return a.frequency < b.frequency; });
+    return detections;
+}
+
+QString listOf(const std::vector<struDetection> &detections)
+{
+    QStringList frequencies;
+    for (const struDetection &detection : detections)
+        frequencies += QString::number(detection.frequency);
+    return frequencies.join(QLatin1Char(' '));
+}
+
+bool isNear(double value, double expected, double tolerance)
+{
+    if (std::abs(value - expected) <= tolerance)
+        return true;
+    qWarning("%f instead of %f", value, expected);
+    return false;
+}
+
+Band carriers(double rate, bool complex, const std::vector<std::pair<double, double>> &frequenciesAndLevels)
+{
+    Band band{rate, complex, -40, 3, {}};
+    for (const auto &[frequency, level] : frequenciesAndLevels)
+        band.transmitters.push_back({BandGenerator::ekModulation_None, frequency, level, 0, 0, 0, 0});
+    return band;
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(BandMonitor::BandGenerator::struSettings)
+
+class tst_SignalDetector : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void findsCarriers_data();
+    void findsCarriers();
+    void findsNothingInNoise_data();
+    void findsNothingInNoise();
+    void measuresTheWidthOfASignal_data();
+    void measuresTheWidthOfASignal();
+    void followsASignalThatComesAndGoes();
+    void keepsSilenceSilent();
+    void makesTheSameBandEveryTime();
+    void printsATable();
+    void findsWhatSoxHasMade();
+};
+
+void tst_SignalDetector::findsCarriers_data()
+{
+    QTest::addColumn<Band>("band");
+    QTest::newRow("real") << carriers(48000, false, {{1000, -60}, {5003, -10}, {12345, -45}, {23000, -30}});
+    QTest::newRow("I/Q") << carriers(96000, true, {{-45000, -30}, {-333, -55}, {20005, 0}, {20505, -50}});
+    QTest::newRow("low rate") << carriers(8000, false, {{700, -20}, {1900, -40}});
+    QTest::newRow("high rate") << carriers(1000000, true, {{-123456, -40}, {250000, -10}});
+}
+
+void tst_SignalDetector::findsCarriers()
+{
+    QFETCH(Band, band);
+    const std::vector<struDetection> detections = detectionsOf(band, 2);
+    QVERIFY2(detections.size() == band.transmitters.size(), qPrintable(listOf(detections)));
+    SpectrumAnalyzer analyzer(band.sampleRate, band.bComplex);
+    const double bin = band.sampleRate / double(analyzer.transformSize());
+    for (std::size_t i = 0; i < detections.size(); ++i) {
+        QVERIFY(isNear(detections[i].frequency, band.transmitters[i].frequency, bin));
+        QVERIFY(isNear(detections[i].level, band.transmitters[i].level, 1));
+        QVERIFY(detections[i].bandwidth < 8 * bin);
+        QVERIFY(isNear(detections[i].firstSeen, 0, SpectrumTime));
+        QVERIFY(isNear(detections[i].lastSeen, 2, 2 * SpectrumTime));
+        QVERIFY(detections[i].bOnAir);
+    }
+}
+
+void tst_SignalDetector::findsNothingInNoise_data()
+{
+    QTest::addColumn<Band>("band");
+    for (unsigned seed = 1; seed <= 6; ++seed) {
+        QTest::addRow("real, seed %u", seed) << Band{48000, false, -20, seed, {}};
+        QTest::addRow("I/Q, seed %u", seed) << Band{96000, true, -60, seed, {}};
+    }
+}
+
+void tst_SignalDetector::findsNothingInNoise()
+{
+    QFETCH(Band, band);
+    const std::vector<struDetection> detections = detectionsOf(band, 8);
+    QVERIFY2(detections.empty(), qPrintable(listOf(detections)));
+}
+
+void tst_SignalDetector::measuresTheWidthOfASignal_data()
+{
+    QTest::addColumn<int>("modulation");
+    QTest::addColumn<double>("deviation");
+    QTest::addColumn<double>("least");
+    QTest::addColumn<double>("most");
+    // Two tones 850 Hz apart, switched 100 times a second, take a little more than their distance.
+    QTest::newRow("data") << int(BandGenerator::ekModulation_Data) << 425.0 << 850.0 << 1250.0;
+    // Carson's rule, 2 (deviation + highest frequency of the voice), is for the loudest moments.
+    QTest::newRow("voice") << int(BandGenerator::ekModulation_Voice) << 2500.0 << 2500.0 << 7000.0;
+}
+
+void tst_SignalDetector::measuresTheWidthOfASignal()
+{
+    QFETCH(int, modulation);
+    QFETCH(double, deviation);
+    QFETCH(double, least);
+    QFETCH(double, most);
+    for (unsigned seed = 1; seed <= 3; ++seed) {
+        const Transmitter transmitter{BandGenerator::eModulation(modulation), -7000, -15, deviation, 0, 0, 0};
+        const auto detections = detectionsOf({96000, true, -40, seed, {transmitter}}, 10);
+        QVERIFY2(detections.size() == 1, qPrintable(listOf(detections)));
+        QVERIFY(isNear(detections[0].frequency, -7000, deviation / 10));
+        QVERIFY(isNear(detections[0].level, -15, 1));
+        QVERIFY2(detections[0].bandwidth > least && detections[0].bandwidth < most,
+                 qPrintable(QString::number(detections[0].bandwidth)));
+    }
+}
+
+void tst_SignalDetector::followsASignalThatComesAndGoes()
+{
+    // On from 2 to 3.5 s and from 7 to 8.5 s.
+    Band band = carriers(48000, false, {{4000, -30}, {9000, -25}});
+    band.transmitters[1].firstStart = 2;
+    band.transmitters[1].onTime = 1.5;
+    band.transmitters[1].period = 5;
+    SignalMonitor monitor(std::make_unique<BandGenerator>(band));
+    int id = 0;
+    const auto check = [&](double time, bool bOnAir, double lastSeen) {
+        monitor.advance(time - monitor.time());
+        const auto detections = monitor.detector().detections();
+        QVERIFY2(detections.size() == 2, qPrintable(listOf(detections)));
+        const struDetection &detection = detections[1];
+        id = id == 0 ? detection.id : id;
+        QCOMPARE(detection.id, id);
+        QCOMPARE(detection.bOnAir, bOnAir);
+        QVERIFY(isNear(detection.frequency, 9000, 12));
+        QVERIFY(isNear(detection.level, -25, 1));
+        QVERIFY(isNear(detection.firstSeen, 2, SpectrumTime));
+        QVERIFY(isNear(detection.lastSeen, lastSeen, SpectrumTime));
+        QVERIFY(detections[0].bOnAir);
+    };
+    monitor.advance(1.9);
+    QCOMPARE(int(monitor.detector().detections().size()), 1);
+    check(5, false, 3.5);
+    check(8, true, 8 - SpectrumTime);
+    check(11, false, 8.5);
+}
+
+void tst_SignalDetector::keepsSilenceSilent()
+{
+    QVERIFY(detectionsOf({48000, false, -400, 1, {}}, 2).empty());
+    Band band = carriers(48000, false, {{6000, -10}});
+    band.noiseLevel = -400;
+    QCOMPARE(int(detectionsOf(band, 2).size()), 1);
+}
+
+void tst_SignalDetector::makesTheSameBandEveryTime()
+{
+    const auto samples = [](unsigned seed) {
+        Band band = BandGenerator::ownBand();
+        band.seed = seed;
+        std::vector<Sample> block(10000);
+        BandGenerator(band).read(block.data(), block.size());
+        return block;
+    };
+    QVERIFY(samples(1) == samples(1));
+    QVERIFY(samples(1) != samples(2));
+}
+
+void tst_SignalDetector::printsATable()
+{
+    const QStringList lines =
+        detectionReport(std::make_unique<BandGenerator>(BandGenerator::ownBand())).split(QLatin1Char('\n'));
+    QCOMPARE(lines.size(), 10); // heading, columns, seven signals, and the end of the last line
+    QVERIFY(lines[0].contains(QStringLiteral("96 kHz I/Q")));
+    QVERIFY(lines[1].simplified().startsWith(QStringLiteral("Frequency Bandwidth Level First seen")));
+    const QRegularExpression row(QStringLiteral(
+        "^ *-?[0-9.]+ k?Hz +[0-9.]+ k?Hz +-[0-9.]+ dBFS +0:[0-9]{2}\\.[0-9] +0:[0-9]{2}\\.[0-9]$"));
+    for (int i = 2; i < 9; ++i) {
+        QVERIFY2(row.match(lines[i]).hasMatch(), qPrintable(lines[i]));
+        QCOMPARE(lines[i].size(), lines[1].size());
+    }
+}
+
+void tst_SignalDetector::findsWhatSoxHasMade()
+{
+    const QString sox = QStandardPaths::findExecutable(QStringLiteral("sox"));
+    if (sox.isEmpty())
+        QSKIP("sox is not installed");
+    const QTemporaryDir directory;
+    const QString path = directory.filePath(QStringLiteral("sox.wav"));
+    const QString command = QStringLiteral("-R -r 44100 -n -b 24 %1 synth 4 sine 1234 sine 15000 whitenoise "
+                                           "remix -p 1v0.1,2v0.01,3v0.003");
+    QCOMPARE(QProcess::execute(sox, command.arg(path).split(QLatin1Char(' '))), 0);
+    QString error;
+    SignalMonitor monitor(WavReader::open(path, &error));
+    QVERIFY2(error.isEmpty(), qPrintable(error));
+    while (monitor.advance(1))
+        continue;
+    const auto detections = monitor.detector().detections();
+    QVERIFY2(detections.size() == 2, qPrintable(listOf(detections)));
+    QVERIFY(isNear(detections[0].frequency, 1234, 12) && isNear(detections[1].frequency, 15000, 12));
+    QVERIFY(isNear(detections[0].level, -20, 1) && isNear(detections[1].level, -40, 1));
+}
+
+QTEST_GUILESS_MAIN(tst_SignalDetector)
+#include "tst_SignalDetector.moc"

@@ -1,0 +1,133 @@
+// SPDX-FileCopyrightText: 2026 The PYXRuntime developers
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "SpectrumAnalyzer.h"
+
+#include "BandGenerator.h"
+
+#include <QtTest/QtTest>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace BandMonitor;
+
+namespace {
+
+std::vector<struSpectrum> spectraOf(const BandGenerator::struSettings &settings, double seconds)
+{
+    BandGenerator band(settings);
+    std::vector<Sample> samples(std::size_t(seconds * settings.sampleRate));
+    band.read(samples.data(), samples.size());
+    SpectrumAnalyzer analyzer(settings.sampleRate, settings.bComplex);
+    return analyzer.feed(samples.data(), samples.size());
+}
+
+std::size_t strongest(const struSpectrum &spectrum)
+{
+    return std::size_t(std::max_element(spectrum.power.begin(), spectrum.power.end()) -
+                       spectrum.power.begin());
+}
+
+} // namespace
+
+class tst_SpectrumAnalyzer : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void showsAToneAtItsPlaceAndLevel_data();
+    void showsAToneAtItsPlaceAndLevel();
+    void showsNoiseAtItsLevel_data();
+    void showsNoiseAtItsLevel();
+    void hidesNothingBesideAStrongTone();
+    void tellsTheTimeOfEverySpectrum();
+    void finishesWhatIsLeft();
+};
+
+void tst_SpectrumAnalyzer::showsAToneAtItsPlaceAndLevel_data()
+{
+    QTest::addColumn<double>("rate");
+    QTest::addColumn<bool>("complex");
+    QTest::addColumn<double>("frequency");
+    QTest::addColumn<double>("level");
+    QTest::newRow("real, full scale") << 48000.0 << false << 9000.0 << 0.0;
+    QTest::newRow("real, -60 dBFS") << 48000.0 << false << 750.0 << -60.0;
+    QTest::newRow("real, low rate") << 8000.0 << false << 3000.0 << -6.0;
+    QTest::newRow("I/Q, above") << 96000.0 << true << 12000.0 << 0.0;
+    QTest::newRow("I/Q, below") << 96000.0 << true << -30000.0 << -20.0;
+    QTest::newRow("I/Q, high rate") << 2048000.0 << true << -600000.0 << -3.0;
+}
+
+void tst_SpectrumAnalyzer::showsAToneAtItsPlaceAndLevel()
+{
+    QFETCH(double, rate);
+    QFETCH(bool, complex);
+    QFETCH(double, frequency);
+    QFETCH(double, level);
+    const auto spectra = spectraOf(
+        {rate, complex, -160, 1, {{BandGenerator::ekModulation_None, frequency, level, 0, 0, 0, 0}}}, 0.3);
+    QVERIFY(!spectra.empty());
+    for (const struSpectrum &spectrum : spectra) {
+        QCOMPARE(spectrum.firstFrequency, complex ? -rate / 2 : 0.0);
+        QVERIFY(std::abs(spectrum.lastFrequency() - rate / 2) <= spectrum.binWidth);
+        const std::size_t bin = strongest(spectrum);
+        QVERIFY(std::abs(spectrum.frequency(double(bin)) - frequency) <= spectrum.binWidth / 2);
+        // Half a bin away from the middle the window loses 0.83 dB.
+        const double shown = levelOfPower(double(spectrum.power[bin]));
+        QVERIFY2(shown < level + 0.01 && shown > level - 0.84, qPrintable(QString::number(shown)));
+    }
+}
+
+void tst_SpectrumAnalyzer::showsNoiseAtItsLevel_data()
+{
+    QTest::addColumn<bool>("complex");
+    QTest::newRow("real") << false;
+    QTest::newRow("I/Q") << true;
+}
+
+void tst_SpectrumAnalyzer::showsNoiseAtItsLevel()
+{
+    QFETCH(bool, complex);
+    double sum = 0;
+    const auto spectra = spectraOf({48000, complex, -20, 7, {}}, 3);
+    for (const struSpectrum &spectrum : spectra) {
+        for (const float power : spectrum.power)
+            sum += double(power) / spectrum.noiseBandwidth / double(spectra.size());
+    }
+    QVERIFY2(std::abs(levelOfPower(sum) + 20) < 0.1, qPrintable(QString::number(levelOfPower(sum))));
+}
+
+void tst_SpectrumAnalyzer::hidesNothingBesideAStrongTone()
+{
+    const auto spectra =
+        spectraOf({48000, false, -160, 1, {{BandGenerator::ekModulation_None, 5003, 0, 0, 0, 0, 0}}}, 0.3);
+    const struSpectrum &spectrum = spectra.back();
+    for (std::size_t bin = 0; bin < spectrum.power.size(); ++bin) {
+        if (std::abs(spectrum.frequency(double(bin)) - 5003) > 6 * spectrum.binWidth)
+            QVERIFY(levelOfPower(double(spectrum.power[bin])) < -90);
+    }
+}
+
+void tst_SpectrumAnalyzer::tellsTheTimeOfEverySpectrum()
+{
+    const auto spectra = spectraOf({48000, false, -40, 1, {}}, 2);
+    QVERIFY(spectra.size() > 10);
+    const double step = spectra[1].time - spectra[0].time;
+    QVERIFY(step > 0.1 && step < 0.15);
+    for (std::size_t i = 1; i < spectra.size(); ++i)
+        QVERIFY(std::abs(spectra[i].time - spectra[i - 1].time - step) < 1e-9);
+    QVERIFY(spectra.back().time < 2 && spectra.back().time > 2 - 2 * step);
+}
+
+void tst_SpectrumAnalyzer::finishesWhatIsLeft()
+{
+    SpectrumAnalyzer analyzer(48000, false);
+    const std::vector<Sample> samples(analyzer.transformSize(), Sample(0.5F, 0));
+    QVERIFY(analyzer.feed(samples.data(), samples.size() - 1).empty());
+    QVERIFY(analyzer.finish().empty());
+    QVERIFY(analyzer.feed(samples.data(), samples.size()).empty());
+    QCOMPARE(int(analyzer.finish().size()), 1);
+}
+
+QTEST_GUILESS_MAIN(tst_SpectrumAnalyzer)
+#include "tst_SpectrumAnalyzer.moc"

@@ -1,0 +1,277 @@
+// SPDX-FileCopyrightText: 2026 The PYXRuntime developers
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "WavReader.h"
+
+#include "WavBytes.h"
+
+#include <PYXTraceWrapper.h>
+
+#include <QtCore/QProcess>
+#include <QtCore/QStandardPaths>
+#include <QtCore/QTemporaryDir>
+#include <QtTest/QtTest>
+
+#include <cmath>
+#include <limits>
+
+using namespace BandMonitor;
+using namespace WavBytes;
+
+namespace {
+
+QByteArray number24(int value)
+{
+    return number32(value).left(3);
+}
+
+QByteArray extensible(int subFormat, int bits, const QByteArray &tail)
+{
+    QByteArray content = formatChunk(0xfffe, 1, bits).mid(8);
+    return chunk("fmt ", content + number16(22) + number16(bits) + number32(4) + number16(subFormat) + tail);
+}
+
+const QByteArray KnownTail = QByteArray::fromHex("000000001000800000aa00389b71");
+
+std::vector<Sample> samplesOf(SampleSource &source)
+{
+    // One more than there are: the end must be noticed.
+    std::vector<Sample> samples(std::size_t(std::lround(source.duration() * source.sampleRate())) + 1);
+    samples.resize(source.read(samples.data(), samples.size()));
+    return samples;
+}
+
+} // namespace
+
+class tst_WavReader : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void readsEveryFormat_data();
+    void readsEveryFormat();
+    void tellsWhatIsWrong_data();
+    void tellsWhatIsWrong();
+    void survivesBeingCutAtEveryByte();
+    void readsInBlocks();
+    void refusesWhatIsNoFile();
+    void readsWhatSoxWrites_data();
+    void readsWhatSoxWrites();
+
+private:
+    std::unique_ptr<WavReader> _open(const QByteArray &bytes, QString *error)
+    {
+        const QString path = m_directory.filePath(QStringLiteral("test.wav"));
+        return write(path, bytes) ? WavReader::open(path, error) : nullptr;
+    }
+
+    QTemporaryDir m_directory;
+};
+
+void tst_WavReader::readsEveryFormat_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QVector<float>>("expected");
+    QTest::addColumn<bool>("complex");
+
+    const auto add = [](const char *name, const QByteArray &chunks, const QVector<float> &expected,
+                        bool complex = false) { QTest::newRow(name) << riff(chunks) << expected << complex; };
+    const QByteArray pcm16 = formatChunk(1, 1, 16);
+    const QByteArray two = number16(-16384) + number16(8192);
+    add("8 bit", formatChunk(1, 1, 8) + chunk("data", QByteArray("\x00\x80\xc0", 3)), {-1, 0, 0.5});
+    add("16 bit", pcm16 + chunk("data", number16(-32768) + two), {-1, -0.5, 0.25});
+    add("24 bit", formatChunk(1, 1, 24) + chunk("data", number24(-8388608) + number24(1) + number24(4194304)),
+        {-1, 1 / 8388608.0F, 0.5});
+    add("32 bit", formatChunk(1, 1, 32) + chunk("data", number(qint32(INT_MIN)) + number(qint32(0x40000000))),
+        {-1, 0.5});
+    add("float", formatChunk(3, 1, 32) + chunk("data", number(-0.25F) + number(1.5F)), {-0.25, 1.5});
+    add("long float", formatChunk(3, 1, 64) + chunk("data", number(-0.25) + number(1e300)), {-0.25, 1e9F});
+    add("float that is no number",
+        formatChunk(3, 1, 32) + chunk("data", number(std::numeric_limits<float>::quiet_NaN()) + number(0.5F)),
+        {0, 0.5});
+    add("I/Q", formatChunk(1, 2, 16) + chunk("data", two + two), {-0.5, 0.25, -0.5, 0.25}, true);
+    add("extensible PCM", extensible(1, 16, KnownTail) + chunk("data", two), {-0.5, 0.25});
+    add("extensible float", extensible(3, 32, KnownTail) + chunk("data", number(0.125F)), {0.125});
+    add("other chunks of odd size", chunk("LIST", "odd") + pcm16 + chunk("fact", "x") + chunk("data", two),
+        {-0.5, 0.25});
+    add("chunks after the data", pcm16 + chunk("data", two) + chunk("LIST", "abcd"), {-0.5, 0.25});
+    add("data length of zero", pcm16 + "data" + number32(0) + two, {-0.5, 0.25});
+    add("data length of the largest number", pcm16 + "data" + number32(0xffffffff) + two, {-0.5, 0.25});
+    add("data length beyond the end", pcm16 + "data" + number32(1000000000) + two, {-0.5, 0.25});
+    add("half a sample at the end", pcm16 + "data" + number32(5) + two + "x", {-0.5, 0.25});
+    const QByteArray ds64 = chunk("ds64", number(qint64(0)) + number(qint64(4)) + number(qint64(2)));
+    QTest::newRow("RF64") << riff(ds64 + pcm16 + "data" + number32(0xffffffff) + two + chunk("LIST", "abcd"))
+                                 .replace(0, 4, "RF64")
+                          << QVector<float>{-0.5, 0.25} << false;
+}
+
+void tst_WavReader::readsEveryFormat()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QVector<float>, expected);
+    QFETCH(bool, complex);
+    QString error;
+    const auto reader = _open(bytes, &error);
+    QVERIFY2(reader, qPrintable(error));
+    QCOMPARE(reader->sampleRate(), 48000.0);
+    QCOMPARE(reader->isComplex(), complex);
+    QVector<float> values;
+    for (const Sample &sample : samplesOf(*reader)) {
+        values += sample.real();
+        if (complex)
+            values += sample.imag();
+        else
+            QCOMPARE(sample.imag(), 0.0F);
+    }
+    QCOMPARE(values, expected);
+}
+
+void tst_WavReader::tellsWhatIsWrong_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<QString>("complaint");
+
+    const QByteArray samples = chunk("data", QByteArray(64, 'x'));
+    const QByteArray pcm16 = formatChunk(1, 1, 16);
+    const auto add = [](const char *name, const QByteArray &bytes, const char *complaint) {
+        QTest::newRow(name) << bytes << QString::fromUtf8(complaint);
+    };
+    add("empty", "", "is empty");
+    add("text", "Dear Sir or Madam, ", "is not a WAV file");
+    add("other RIFF file", riff({}).replace(8, 4, "AVI "), "is a RIFF file of type \"AVI \", not a WAV file");
+    add("big-endian", riff({}).replace(0, 4, "RIFX"), "is a big-endian WAV file, which is not supported");
+    add("cut in the first bytes", riff({}).left(9), "is cut off within its first 12 bytes");
+    add("nothing inside", riff({}), "has no format chunk");
+    add("no samples chunk", riff(pcm16), "has no data chunk");
+    add("no samples", riff(pcm16 + chunk("data", {})), "holds no samples");
+    add("less than a sample", riff(pcm16 + "data" + number32(1) + "x"), "holds no samples");
+    add("samples first", riff(samples + pcm16), "has no format chunk before its samples");
+    add("format cut", riff(pcm16).left(30), "ends inside its chunk \"fmt \", before any samples");
+    add("chunk that claims too much", riff(pcm16 + "LI\x01T" + number32(0xfffffff0) + "x"),
+        "ends inside its chunk \"LI?T\", before any samples");
+    add("short format", riff(chunk("fmt ", "1234") + samples), "has a format chunk of only 4 bytes");
+    add("short extensible", riff(formatChunk(0xfffe, 1, 16) + samples),
+        "has an extensible format chunk of only 16 bytes");
+    add("unknown sub-format", riff(extensible(1, 16, QByteArray(14, 'x')) + samples),
+        "has samples in an unknown coding");
+    add("MP3", riff(formatChunk(0x55, 1, 16) + samples),
+        "is compressed (MPEG); only PCM and float samples can be read");
+    add("unknown tag", riff(formatChunk(0x1234, 1, 16) + samples),
+        "is compressed (0x1234); only PCM and float samples can be read");
+    add("no channels", riff(formatChunk(1, 0, 16) + samples),
+        "has 0 channels; it takes one (real) or two (I/Q)");
+    add("six channels", riff(formatChunk(1, 6, 16) + samples),
+        "has 6 channels; it takes one (real) or two (I/Q)");
+    add("no rate", riff(formatChunk(1, 1, 16, 0) + samples), "claims a sample rate of zero");
+    add("odd PCM", riff(formatChunk(1, 1, 12) + samples), "has PCM samples of 12 bits");
+    add("odd float", riff(formatChunk(3, 1, 16) + samples), "has float samples of 16 bits");
+    add("block size that does not fit", riff(QByteArray(pcm16).replace(20, 2, number16(7)) + samples),
+        "claims 7 bytes for samples that take 2");
+    QByteArray chunks;
+    for (int i = 0; i < 2000; ++i)
+        chunks += chunk("junk", {});
+    add("chunks without end", riff(chunks), "has more than 1000 chunks before its samples");
+}
+
+void tst_WavReader::tellsWhatIsWrong()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(QString, complaint);
+    QString error;
+    QVERIFY(!_open(bytes, &error));
+    QVERIFY(error.contains(QStringLiteral("test.wav")));
+    QCOMPARE(error.section(QLatin1String("\" "), 1), complaint + QLatin1Char('.'));
+}
+
+void tst_WavReader::survivesBeingCutAtEveryByte()
+{
+    const QByteArray whole =
+        riff(extensible(1, 16, KnownTail) + chunk("LIST", "abc") + chunk("data", "12345678"));
+    const int dataStart = whole.size() - 8;
+    for (int size = 0; size < whole.size(); ++size) {
+        QString error;
+        const auto reader = _open(whole.left(size), &error);
+        QCOMPARE(bool(reader), size >= dataStart + 2);
+        QCOMPARE(error.isEmpty(), bool(reader));
+        if (reader)
+            QCOMPARE(int(samplesOf(*reader).size()), (size - dataStart) / 2);
+    }
+}
+
+void tst_WavReader::readsInBlocks()
+{
+    QByteArray numbers;
+    for (int i = 0; i < 1000; ++i)
+        numbers += number16(i);
+    QString error;
+    const auto reader = _open(riff(formatChunk(1, 1, 16) + chunk("data", numbers)), &error);
+    QVERIFY(reader);
+    std::array<Sample, 300> block;
+    int expected = 0;
+    for (const std::size_t count : {300U, 300U, 300U, 100U, 0U}) {
+        QCOMPARE(reader->read(block.data(), block.size()), count);
+        for (std::size_t i = 0; i < count; ++i)
+            QCOMPARE(block[i].real() * 32768, float(expected++));
+    }
+}
+
+void tst_WavReader::refusesWhatIsNoFile()
+{
+    QString error;
+    QVERIFY(!WavReader::open(m_directory.path(), &error));
+    QVERIFY(error.endsWith(QStringLiteral("\" is not a file.")));
+    QVERIFY(!WavReader::open(m_directory.filePath(QStringLiteral("missing.wav")), &error));
+    QVERIFY(error.contains(QStringLiteral("\" cannot be opened: ")));
+}
+
+void tst_WavReader::readsWhatSoxWrites_data()
+{
+    QTest::addColumn<QString>("options");
+    QTest::addColumn<QString>("coding");
+    QTest::newRow("8 bit") << "-b 8 -e unsigned-integer"
+                           << "8 bit";
+    QTest::newRow("16 bit") << "-b 16"
+                            << "16 bit";
+    QTest::newRow("24 bit") << "-b 24"
+                            << "24 bit";
+    QTest::newRow("32 bit") << "-b 32 -e signed-integer"
+                            << "32 bit";
+    QTest::newRow("float") << "-b 32 -e floating-point"
+                           << "32 bit float";
+    QTest::newRow("long float") << "-b 64 -e floating-point"
+                                << "64 bit float";
+    QTest::newRow("stereo") << "-b 24 -c 2"
+                            << "24 bit";
+}
+
+void tst_WavReader::readsWhatSoxWrites()
+{
+    QFETCH(QString, options);
+    QFETCH(QString, coding);
+    const QString sox = QStandardPaths::findExecutable(QStringLiteral("sox"));
+    if (sox.isEmpty())
+        QSKIP("sox is not installed");
+    const QString path = m_directory.filePath(QStringLiteral("sox.wav"));
+    const QStringList arguments =
+        QStringList{QStringLiteral("-r"), QStringLiteral("8000"), QStringLiteral("-n")} +
+        options.split(QLatin1Char(' ')) + QStringList{path} +
+        QStringLiteral("synth 0.5 sine 1000 gain -6.0206").split(QLatin1Char(' '));
+    QCOMPARE(QProcess::execute(sox, arguments), 0);
+
+    QString error;
+    const auto reader = WavReader::open(path, &error);
+    QVERIFY2(reader, qPrintable(error));
+    QCOMPARE(reader->coding(), coding);
+    QCOMPARE(reader->isComplex(), options.contains(QStringLiteral("-c 2")));
+    const std::vector<Sample> samples = samplesOf(*reader);
+    QCOMPARE(int(samples.size()), 4000);
+    const double lastBit = coding == QLatin1String("8 bit") ? 1 / 64.0 : 1e-4;
+    for (std::size_t i = 0; i < samples.size(); ++i) {
+        const double expected = 0.5 * std::sin(double(i) * 6.283185307179586 / 8);
+        QVERIFY(std::abs(double(samples[i].real()) - expected) < lastBit);
+        if (reader->isComplex())
+            QCOMPARE(samples[i].imag(), samples[i].real());
+    }
+}
+
+QTEST_GUILESS_MAIN(tst_WavReader)
+#include "tst_WavReader.moc"
