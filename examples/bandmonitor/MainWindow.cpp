@@ -4,10 +4,9 @@
 
 #include "BandGenerator.h"
 #include "Colours.h"
-#include "DetectionModel.h"
+#include "DetectionDock.h"
 #include "HeadlessRun.h"
 #include "LogDock.h"
-#include "Scale.h"
 #include "SignalMonitor.h"
 #include "SpectrumView.h"
 #include "SymbolIcon.h"
@@ -17,20 +16,17 @@
 
 #include <PYXTraceWrapper.h>
 
-#include <QtCore/QSortFilterProxyModel>
 #include <QtGui/QShowEvent>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QFileDialog>
-#include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QSplitter>
 #include <QtWidgets/QStatusBar>
 #include <QtWidgets/QStyle>
-#include <QtWidgets/QTableView>
 #include <QtWidgets/QToolBar>
 
 #include <algorithm>
@@ -62,8 +58,7 @@ MainWindow::MainWindow(QWidget *parent)
     setObjectName(QStringLiteral("mainWindow"));
     setWindowTitle(QApplication::applicationName());
     _createViews();
-    _createTable();
-    addDockWidget(Qt::BottomDockWidgetArea, new LogDock(this));
+    _createDocks();
     _createActions();
     _createViewMenu();
     _createStatusBar();
@@ -97,40 +92,12 @@ void MainWindow::_createViews()
     setCentralWidget(splitter);
 }
 
-void MainWindow::_createTable()
+void MainWindow::_createDocks()
 {
-    m_detections = new DetectionModel(this);
-    m_sortedDetections = new QSortFilterProxyModel(this);
-    m_sortedDetections->setSourceModel(m_detections);
-    m_sortedDetections->setSortRole(DetectionModel::SortRole);
-
-    m_table = new QTableView;
-    m_table->setObjectName(QStringLiteral("detectionTable"));
-    m_table->setFont(smallerFont(font()));
-    m_table->horizontalHeader()->setFont(m_table->font());
-    m_table->setModel(m_sortedDetections);
-    m_table->setSortingEnabled(true);
-    m_table->sortByColumn(DetectionModel::ekColumn_Frequency, Qt::AscendingOrder);
-    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_table->setAlternatingRowColors(true);
-    m_table->setShowGrid(false);
-    m_table->setFrameShape(QFrame::NoFrame);
-    m_table->setIconSize({8, 8});
-    m_table->verticalHeader()->hide();
-    m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() + 6);
-    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    m_table->horizontalHeader()->setSectionResizeMode(DetectionModel::ekColumn_Frequency, QHeaderView::Fixed);
-    m_table->setColumnWidth(DetectionModel::ekColumn_Frequency,
-                            m_table->fontMetrics().horizontalAdvance(QStringLiteral("-00000.000 kHz")));
-    m_table->horizontalHeader()->setHighlightSections(false);
-    connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
-            &MainWindow::_sl_table_selectionChanged);
-
-    auto *const dock = new QDockWidget(tr("Signals"), this);
-    dock->setObjectName(QStringLiteral("detectionDock"));
-    dock->setWidget(m_table);
-    addDockWidget(Qt::BottomDockWidgetArea, dock);
+    m_detectionDock = new DetectionDock(this);
+    connect(m_detectionDock, &DetectionDock::si_selected, m_spectrumView, &SpectrumView::setSelected);
+    addDockWidget(Qt::BottomDockWidgetArea, m_detectionDock);
+    addDockWidget(Qt::BottomDockWidgetArea, new LogDock(this));
 }
 
 void MainWindow::_createActions()
@@ -238,7 +205,7 @@ void MainWindow::_setSource(std::unique_ptr<SampleSource> source)
     m_levelRange = {};
     m_spectrumView->clear();
     m_waterfallView->clear();
-    m_detections->setDetections({});
+    m_detectionDock->setDetections({});
     PYXRuntime::PYXTraceWrapper::staticTraceInfo(tr("%1: %2").arg(opened.name(), sourceText(opened)),
                                                  TraceFile, __LINE__);
     m_sourceLabel->setText(opened.name() + QStringLiteral("   ") + sourceText(opened));
@@ -295,13 +262,6 @@ void MainWindow::_sl_playTimer_timeout()
     _showDetections();
 }
 
-void MainWindow::_sl_table_selectionChanged()
-{
-    const QModelIndexList rows = m_table->selectionModel()->selectedRows();
-    const int row = rows.isEmpty() ? -1 : m_sortedDetections->mapToSource(rows.first()).row();
-    m_spectrumView->setSelected(row < 0 ? 0 : m_detections->detections()[std::size_t(row)].id);
-}
-
 void MainWindow::_showSpectrum(const struSpectrum &spectrum)
 {
     const SignalDetector &detector = m_monitor->detector();
@@ -318,8 +278,9 @@ void MainWindow::_showSpectrum(const struSpectrum &spectrum)
 
 void MainWindow::_showDetections()
 {
-    m_detections->setDetections(m_monitor->detector().detections());
-    m_spectrumView->setDetections(m_detections->detections());
+    const std::vector<struDetection> detections = m_monitor->detector().detections();
+    m_detectionDock->setDetections(detections);
+    m_spectrumView->setDetections(detections);
     _showState();
 }
 

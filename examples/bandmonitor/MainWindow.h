@@ -14,12 +14,10 @@
 
 class QComboBox;
 class QLabel;
-class QSortFilterProxyModel;
-class QTableView;
 
 namespace BandMonitor {
 
-class DetectionModel;
+class DetectionDock;
 class FrequencyAxis;
 class SignalMonitor;
 class SpectrumView;
@@ -48,7 +46,7 @@ protected:
 
 private:
     void _createViews();
-    void _createTable();
+    void _createDocks();
     void _createActions();
     void _createViewMenu();
     void _createStatusBar();
@@ -59,7 +57,6 @@ private:
     void _showState();
     void _sl_openAction_triggered();
     void _sl_playTimer_timeout();
-    void _sl_table_selectionChanged();
 
     std::unique_ptr<SignalMonitor> m_monitor;
     QString m_path; ///< of the recording; empty for the own band
@@ -71,9 +68,7 @@ private:
     FrequencyAxis *m_axis = nullptr;
     SpectrumView *m_spectrumView = nullptr;
     WaterfallView *m_waterfallView = nullptr;
-    DetectionModel *m_detections = nullptr;
-    QSortFilterProxyModel *m_sortedDetections = nullptr;
-    QTableView *m_table = nullptr;
+    DetectionDock *m_detectionDock = nullptr;
     QAction *m_playAction = nullptr;
     QAction *m_darkAction = nullptr;
     QComboBox *m_speedBox = nullptr;

@@ -27,7 +27,7 @@ std::vector<double> ticks(double low, double high, double step)
     std::vector<double> values;
     const double last = std::floor(high / step + 1e-6);
     for (double i = std::ceil(low / step - 1e-6); i <= last; ++i)
-        values.push_back(i * step);
+        values.push_back(i * step + 0.0); // -0 becomes 0
     return values;
 }
 

@@ -9,6 +9,7 @@
 #include <PYXRuntimeCenter.h>
 
 #include <QtCore/QCommandLineParser>
+#include <QtCore/QLocale>
 #include <QtWidgets/QApplication>
 
 #include <algorithm>
@@ -61,6 +62,7 @@ int runHeadless(const QString &path)
 {
     // Otherwise the event loop does this, and here is none.
     PYXRuntime::PYXRuntimeCenter::handleConfigFiles();
+    QLocale::setDefault(QLocale::c()); // scripts read the numbers
     std::unique_ptr<SampleSource> source;
     QString error;
     if (path.isEmpty())

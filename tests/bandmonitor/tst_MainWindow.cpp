@@ -10,6 +10,7 @@
 
 #include <PYXTraceWrapper.h>
 
+#include <QtCore/QLocale>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 #include <QtWidgets/QAction>
@@ -50,6 +51,7 @@ class tst_MainWindow : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
+        QLocale::setDefault(QLocale::c());
         m_path = m_directory.filePath(QStringLiteral("tones.wav"));
         QVERIFY(WavBytes::write(m_path, recording()));
     }

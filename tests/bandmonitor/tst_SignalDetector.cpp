@@ -7,6 +7,7 @@
 
 #include "WavBytes.h"
 
+#include <QtCore/QLocale>
 #include <QtCore/QProcess>
 #include <QtCore/QRegularExpression>
 #include <QtCore/QStandardPaths>
@@ -68,6 +69,7 @@ class tst_SignalDetector : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void initTestCase() { QLocale::setDefault(QLocale::c()); }
     void findsCarriers_data();
     void findsCarriers();
     void findsNothingInNoise_data();

@@ -1,0 +1,67 @@
+// SPDX-FileCopyrightText: 2026 The PYXRuntime developers
+// SPDX-License-Identifier: BSD-3-Clause
+#include "DetectionDock.h"
+
+#include "DetectionModel.h"
+#include "Scale.h"
+
+#include <QtCore/QSortFilterProxyModel>
+#include <QtWidgets/QHeaderView>
+#include <QtWidgets/QTableView>
+
+namespace BandMonitor {
+
+DetectionDock::DetectionDock(QWidget *parent)
+    : QDockWidget(parent)
+    , m_model(new DetectionModel(this))
+    , m_sortedModel(new QSortFilterProxyModel(this))
+    , m_table(new QTableView(this))
+{
+    setObjectName(QStringLiteral("detectionDock"));
+    setWindowTitle(tr("Signals"));
+    m_sortedModel->setSourceModel(m_model);
+    m_sortedModel->setSortRole(DetectionModel::SortRole);
+    _createTable();
+    setWidget(m_table);
+    connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &DetectionDock::_sl_table_selectionChanged);
+}
+
+void DetectionDock::_createTable()
+{
+    m_table->setObjectName(QStringLiteral("detectionTable"));
+    m_table->setFont(smallerFont(font()));
+    m_table->setModel(m_sortedModel);
+    m_table->setSortingEnabled(true);
+    m_table->sortByColumn(DetectionModel::ekColumn_Frequency, Qt::AscendingOrder);
+    m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    m_table->setSelectionMode(QAbstractItemView::SingleSelection);
+    m_table->setAlternatingRowColors(true);
+    m_table->setShowGrid(false);
+    m_table->setFrameShape(QFrame::NoFrame);
+    m_table->setIconSize({8, 8});
+    m_table->verticalHeader()->hide();
+    m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() + 6);
+
+    QHeaderView *const header = m_table->horizontalHeader();
+    header->setFont(m_table->font());
+    header->setHighlightSections(false);
+    header->setSectionResizeMode(QHeaderView::Stretch);
+    header->setSectionResizeMode(DetectionModel::ekColumn_Frequency, QHeaderView::Fixed);
+    header->resizeSection(DetectionModel::ekColumn_Frequency,
+                          m_table->fontMetrics().horizontalAdvance(QStringLiteral("-00000.000 kHz")));
+}
+
+void DetectionDock::setDetections(const std::vector<struDetection> &detections)
+{
+    m_model->setDetections(detections);
+}
+
+void DetectionDock::_sl_table_selectionChanged()
+{
+    const QModelIndexList rows = m_table->selectionModel()->selectedRows();
+    const int row = rows.isEmpty() ? -1 : m_sortedModel->mapToSource(rows.first()).row();
+    Q_EMIT si_selected(row < 0 ? 0 : m_model->detections()[std::size_t(row)].id);
+}
+
+} // namespace BandMonitor
