@@ -16,6 +16,8 @@
 
 #include <PYXTraceWrapper.h>
 
+#include <QtCore/QSettings>
+#include <QtGui/QCloseEvent>
 #include <QtGui/QShowEvent>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QApplication>
@@ -36,6 +38,10 @@ namespace BandMonitor {
 namespace {
 
 const char TraceFile[] = "bandmonitor\\MainWindow";
+
+const QLatin1String GeometryKey("MainWindow/Geometry");
+const QLatin1String StateKey("MainWindow/State");
+const QLatin1String DarkKey("MainWindow/DarkColours");
 
 constexpr int TickInterval = 40; // in ms
 // A tick that takes longer would make the window sluggish: the recording is played slower then.
@@ -78,6 +84,26 @@ void MainWindow::showEvent(QShowEvent *event)
     const QList<QDockWidget *> docks = findChildren<QDockWidget *>();
     resizeDocks(docks, {int(width() * TableShare), int(width() * (1 - TableShare))}, Qt::Horizontal);
     resizeDocks(docks, {int(height() * DockShare), int(height() * DockShare)}, Qt::Vertical);
+}
+
+void MainWindow::restoreLayout()
+{
+    const QSettings settings;
+    restoreGeometry(settings.value(GeometryKey).toByteArray());
+    m_bArranged = restoreState(settings.value(StateKey).toByteArray());
+    setDark(settings.value(DarkKey, false).toBool());
+    m_bKeepLayout = true;
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    QMainWindow::closeEvent(event);
+    if (!m_bKeepLayout)
+        return;
+    QSettings settings;
+    settings.setValue(GeometryKey, saveGeometry());
+    settings.setValue(StateKey, saveState());
+    settings.setValue(DarkKey, m_darkAction->isChecked());
 }
 
 void MainWindow::_createViews()

@@ -31,6 +31,8 @@ public:
     explicit MainWindow(QWidget *parent = nullptr);
     ~MainWindow() override;
 
+    /** Looks as it did when it was closed last, and remembers how it looks when it is closed. */
+    void restoreLayout();
     /** Shows a message and goes on with what is played already where the file is no recording. */
     bool openRecording(const QString &path);
     void openOwnBand();
@@ -43,6 +45,7 @@ public:
 
 protected:
     void showEvent(QShowEvent *event) override;
+    void closeEvent(QCloseEvent *event) override;
 
 private:
     void _createViews();
@@ -63,6 +66,7 @@ private:
     QTimer m_playTimer;
     QElapsedTimer m_sinceTick;
     bool m_bArranged = false; ///< whether the docks have got their first sizes
+    bool m_bKeepLayout = false;
     struLevelRange m_levelRange;
 
     FrequencyAxis *m_axis = nullptr;

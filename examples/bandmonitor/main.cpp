@@ -91,6 +91,8 @@ int saveScreenshot(MainWindow &window, const QString &path)
 int runWindow(const QCommandLineParser &parser, const QString &path)
 {
     MainWindow window;
+    if (!parser.isSet(ScreenshotOption))
+        window.restoreLayout();
     const QStringList size = parser.value(SizeOption).split(QLatin1Char('x'));
     if (size.size() == 2)
         window.resize(size.at(0).toInt(), size.at(1).toInt());

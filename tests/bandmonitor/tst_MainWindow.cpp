@@ -11,6 +11,7 @@
 #include <PYXTraceWrapper.h>
 
 #include <QtCore/QLocale>
+#include <QtCore/QSettings>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 #include <QtWidgets/QAction>
@@ -58,6 +59,7 @@ private Q_SLOTS:
     void showsWhatIsInARecording();
     void playsInTime();
     void complainsAboutWhatIsNoRecording();
+    void looksAsItDidWhenItWasClosed();
     void logsTracesOfOtherThreads();
     void keepsTheLogBounded();
     void unplugsTheLogWhenItGoes();
@@ -113,6 +115,30 @@ void tst_MainWindow::complainsAboutWhatIsNoRecording()
     QVERIFY(box != nullptr);
     QVERIFY(box->informativeText().contains(QStringLiteral("missing.wav")));
     QCOMPARE(window.monitor(), before);
+}
+
+void tst_MainWindow::looksAsItDidWhenItWasClosed()
+{
+    QCoreApplication::setOrganizationName(QStringLiteral("tst_MainWindow"));
+    QSettings::setDefaultFormat(QSettings::IniFormat);
+    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_directory.path());
+    const auto isDark = [] { return QApplication::palette().color(QPalette::Base).lightness() < 128; };
+    {
+        MainWindow window;
+        window.restoreLayout();
+        QVERIFY(!isDark());
+        window.resize(700, 500);
+        window.setDark(true);
+        window.findChild<LogDock *>()->hide();
+        window.close();
+        window.setDark(false);
+    }
+    MainWindow window;
+    window.restoreLayout();
+    QVERIFY(isDark());
+    QCOMPARE(window.size(), QSize(700, 500));
+    QVERIFY(window.findChild<LogDock *>()->isHidden());
+    window.setDark(false);
 }
 
 void tst_MainWindow::logsTracesOfOtherThreads()
