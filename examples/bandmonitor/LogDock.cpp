@@ -6,6 +6,7 @@
 
 #include <PYXTraceWrapper.h>
 
+#include <QtCore/QDateTime>
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextCursor>
 #include <QtWidgets/QPlainTextEdit>
@@ -18,7 +19,7 @@ constexpr QRgb ErrorColour = qRgb(0xe0, 0x3c, 0x31);
 
 QColor colourOf(LogTracer::eLevel level, const QPalette &palette)
 {
-    const QColor text = palette.color(QPalette::Text);
+    const QColor &text = palette.color(QPalette::Text);
     switch (level) {
     case LogTracer::ekLevel_Warning:
         return WarningColour;
@@ -71,7 +72,8 @@ void LogDock::_showLines()
 void LogDock::_showLine(const LogTracer::struLine &line)
 {
     // Appending plain text scrolls along only if the end is in sight.
-    m_view->appendPlainText(line.time + QLatin1String("  ") + shortOrigin(line.origin) + QLatin1String("  ") +
+    const QString time = QDateTime::fromMSecsSinceEpoch(line.time).toString(QStringLiteral("HH:mm:ss"));
+    m_view->appendPlainText(time + QLatin1String("  ") + shortOrigin(line.origin) + QLatin1String("  ") +
                             line.text);
     QTextCursor cursor(m_view->document()->lastBlock());
     cursor.select(QTextCursor::BlockUnderCursor);

@@ -2,8 +2,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "LogTracer.h"
 
-#include <QtCore/QMutexLocker>
-#include <QtCore/QTime>
+#include <QtCore/QDateTime>
 
 namespace BandMonitor {
 namespace {
@@ -20,7 +19,7 @@ QString joined(const QString &traceText, const QString &logText)
 
 QVector<LogTracer::struLine> LogTracer::takeLines()
 {
-    const QMutexLocker locker(&m_mutex);
+    const std::lock_guard<std::mutex> locker(m_mutex);
     QVector<struLine> lines;
     lines.swap(m_lines);
     return lines;
@@ -28,11 +27,10 @@ QVector<LogTracer::struLine> LogTracer::takeLines()
 
 void LogTracer::_add(eLevel level, const QString &text, const char *file)
 {
-    const struLine line{level, QTime::currentTime().toString(QStringLiteral("HH:mm:ss")),
-                        QString::fromLatin1(file), text};
+    const struLine line{level, QDateTime::currentMSecsSinceEpoch(), QString::fromLatin1(file), text};
     bool bFirst = false;
     {
-        const QMutexLocker locker(&m_mutex);
+        const std::lock_guard<std::mutex> locker(m_mutex);
         bFirst = m_lines.isEmpty();
         if (m_lines.size() == MaximumLines)
             m_lines.removeFirst();

@@ -4,10 +4,11 @@
 
 #include <IPYXTracer.h>
 
-#include <QtCore/QMutex>
 #include <QtCore/QObject>
 #include <QtCore/QString>
 #include <QtCore/QVector>
+
+#include <mutex>
 
 namespace BandMonitor {
 
@@ -25,8 +26,8 @@ public:
     struct struLine
     {
         eLevel level = ekLevel_Debug;
-        QString time;
-        QString origin; ///< a module, or a runtime scope
+        qint64 time = 0; ///< in milliseconds since 1970, UTC
+        QString origin;  ///< a module, or a runtime scope
         QString text;
     };
 
@@ -74,7 +75,7 @@ Q_SIGNALS:
 private:
     void _add(eLevel level, const QString &text, const char *file);
 
-    QMutex m_mutex;
+    std::mutex m_mutex;
     QVector<struLine> m_lines;
 };
 

@@ -25,9 +25,10 @@ double niceStep(double span, int maximumParts)
 std::vector<double> ticks(double low, double high, double step)
 {
     std::vector<double> values;
-    const double last = std::floor(high / step + 1e-6);
-    for (double i = std::ceil(low / step - 1e-6); i <= last; ++i)
-        values.push_back(i * step + 0.0); // -0 becomes 0
+    const double first = std::ceil(low / step - 1e-6);
+    const int count = int(std::floor(high / step + 1e-6) - first) + 1;
+    for (int i = 0; i < count; ++i)
+        values.push_back((first + i) * step + 0.0); // -0 becomes 0
     return values;
 }
 

@@ -67,7 +67,7 @@ SpectrumAnalyzer::SpectrumAnalyzer(double sampleRate, bool bComplex)
     , m_sum(bComplex ? m_window.size() : m_window.size() / 2 + 1)
 {
     const std::size_t size = m_window.size();
-    const double hop = double(size / HopsPerTransform);
+    const double hop = double(size) / double(HopsPerTransform);
     m_transformsPerSpectrum =
         std::max(std::size_t(std::lround(sampleRate * SpectrumTime / hop)), LeastTransforms);
 
@@ -116,7 +116,8 @@ void SpectrumAnalyzer::_transform()
     // The upper half of the output belongs to the negative frequencies.
     const std::size_t first = m_bComplex ? size / 2 : 0;
     for (std::size_t bin = 0; bin < m_sum.size(); ++bin) {
-        const kiss_fft_cpx &value = m_output[(first + bin) % size];
+        const std::size_t place = first + bin;
+        const kiss_fft_cpx &value = m_output[place < size ? place : place - size];
         m_sum[bin] += value.r * value.r + value.i * value.i;
     }
     ++m_transforms;

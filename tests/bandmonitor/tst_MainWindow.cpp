@@ -98,6 +98,7 @@ void tst_MainWindow::playsInTime()
     const double paused = window.monitor()->time();
     QVERIFY(paused < 2);
     auto *const play = window.findChild<QAction *>(QStringLiteral("playAction"));
+    QVERIFY(play != nullptr);
     play->trigger();
     QTRY_VERIFY(window.monitor()->time() > paused);
     window.playToEnd();
