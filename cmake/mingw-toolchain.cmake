@@ -34,7 +34,10 @@ endif()
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
-set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
+# A project that uses packages outside of these prefixes says BOTH.
+if(NOT DEFINED CMAKE_FIND_ROOT_PATH_MODE_PACKAGE)
+    set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
+endif()
 
 # What is built here runs under Wine: tests and programs that the build itself starts.
 get_filename_component(_runner "${CMAKE_CURRENT_LIST_DIR}/../scripts/windows/run-wine.sh" ABSOLUTE)
