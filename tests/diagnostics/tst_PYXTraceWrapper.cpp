@@ -151,9 +151,8 @@ void tst_PYXTraceWrapper::coloursOnATerminal()
 
 void tst_PYXTraceWrapper::messageOutputs()
 {
-#ifdef Q_OS_WIN
-    QSKIP("the console's code page decides what arrives");
-#endif
+    if (QSysInfo::kernelType() == "winnt")
+        QSKIP("the console's code page decides what arrives");
     QCOMPARE(runOwnProbe("output functions").errors, QString::fromUtf8("\xC3\xA4\nwide\n\n"));
 }
 
