@@ -189,6 +189,7 @@ void tst_PYXRuntimeCenter::switchesWhileOthersWrite()
     const uint switched = PYXRuntimeCenter::registerRuntimeScope("Switched", "");
     PYXRuntimeCenter::setEnabled_pyxWarning(written, false);
     std::vector<std::thread> threads;
+    threads.reserve(4);
     for (int thread = 0; thread < 4; ++thread) {
         threads.emplace_back([=] {
             for (int call = 0; call < 5000; ++call) {

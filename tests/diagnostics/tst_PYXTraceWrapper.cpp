@@ -263,6 +263,7 @@ void tst_PYXTraceWrapper::tracesFromManyThreads()
     CountingTracer tracer;
     PYXTraceWrapper::addTracer(&tracer);
     std::vector<std::thread> threads;
+    threads.reserve(4);
     for (int thread = 0; thread < 4; ++thread) {
         threads.emplace_back([] {
             for (int call = 0; call < 5000; ++call)
