@@ -42,4 +42,5 @@ run_target() {
 }
 export -f run_target
 export LSAN_OPTIONS="suppressions=$PWD/tests/lsan.supp" QT_QPA_PLATFORM=offscreen
+# shellcheck disable=SC2016 # expanded by the inner shell
 printf '%s\0' "${targets[@]}" | xargs -0 -n 1 -P "$jobs" bash -c 'run_target "$1"' bash

@@ -25,7 +25,7 @@ changed_files() {
     if [ -n "$base" ]; then
         changed=$(git diff --name-only --diff-filter=d "$base" && git ls-files --others --exclude-standard)
     fi
-    if [ -z "$base" ] || grep -qx '\.clang-tidy' <<<"$changed"; then
+    if [ -z "$base" ] || grep -q '\.clang-tidy$' <<<"$changed"; then
         git ls-files -- '*.cpp'
         return
     fi
