@@ -51,7 +51,7 @@ bool walkGradient(StreamCursor &cursor, QDataStream::Version version)
 {
     const auto type = cursor.number<qint32>();
     if (isNew(version))
-        cursor.skip(3 * 4); // spread, coordinate mode, interpolation mode
+        cursor.skip(qint64(3) * 4); // spread, coordinate mode, interpolation mode
     cursor.skipArray(DoubleSize + ColorSize);
     switch (type) {
     case QGradient::LinearGradient:
