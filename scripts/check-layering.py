@@ -28,9 +28,9 @@ PRIVATE_ROOMS = {"platform"}
 
 LIBRARY_DIRS = ("include", "source")
 CODE_DIRS = LIBRARY_DIRS + ("tests", "examples", "benchmarks", "fuzz")
-SPDX_DIRS = CODE_DIRS + ("cmake", "scripts", "resources", ".ci")
+SPDX_DIRS = CODE_DIRS + ("cmake", "scripts", "resources", "docs", ".ci")
 CODE_SUFFIXES = {".h", ".cpp"}
-SPDX_SUFFIXES = CODE_SUFFIXES | {".cmake", ".sh", ".py"}
+SPDX_SUFFIXES = CODE_SUFFIXES | {".cmake", ".in", ".sh", ".py"}
 SPDX_NAMES = {"CMakeLists.txt", "run"}
 
 COPYRIGHT = "SPDX-FileCopyrightText: 2026 The PYXRuntime developers"
