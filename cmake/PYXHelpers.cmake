@@ -29,7 +29,8 @@ endfunction()
 # Registers the test program tst_<name>.cpp of a room.
 #   pyx_add_test(name [THREADS] [SOURCES internal sources under test...] [INCLUDES their directories...]
 #                [LIBRARIES lib...] [TIMEOUT s])
-# THREADS marks a test whose promises about threads are checked by the thread sanitizer.
+# THREADS marks a test whose promises about threads are checked by the thread sanitizer; the target
+# thread_tests builds these only.
 function(pyx_add_test name)
     cmake_parse_arguments(PARSE_ARGV 1 ARG "THREADS" "TIMEOUT" "SOURCES;INCLUDES;LIBRARIES")
     find_package(Qt5 5.15 REQUIRED COMPONENTS Test)
@@ -45,5 +46,9 @@ function(pyx_add_test name)
         "QT_QPA_PLATFORM=offscreen;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp;TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/tsan.supp halt_on_error=0;UBSAN_OPTIONS=halt_on_error=1 print_stacktrace=1")
     if(ARG_THREADS)
         set_property(TEST ${name} APPEND PROPERTY LABELS threads)
+        if(NOT TARGET thread_tests)
+            add_custom_target(thread_tests)
+        endif()
+        add_dependencies(thread_tests tst_${name})
     endif()
 endfunction()

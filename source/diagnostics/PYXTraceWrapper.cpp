@@ -119,6 +119,7 @@ void forEachTracer(const struLevel &level, Plain plain, Qualified qualified)
 {
     const QList<IPYXTracer *> tracers = tracerList();
     for (IPYXTracer *tracer : tracers) {
+        Q_ASSERT(tracer != nullptr); // addTracer() lets none in
         auto *const tracer2 = level.qualified.text != nullptr ? dynamic_cast<IPYXTracer2 *>(tracer) : nullptr;
         if (tracer2 != nullptr)
             qualified(tracer2);

@@ -74,7 +74,7 @@ QByteArray print(const struConversion &conversion)
         pattern += '.' + QByteArray::number(conversion.precision);
     pattern += conversion.letter;
 
-    std::array<char, 2 *LongestField> field = {};
+    std::array<char, std::size_t(LongestField) * 2> field = {};
     int length = 0;
     // The pattern holds one conversion, whose letter says which kind of argument it takes.
     if (std::strchr("eEfFgGaA", conversion.letter) != nullptr)

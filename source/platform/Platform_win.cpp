@@ -56,7 +56,15 @@ void writeStandardOutputLine(const QByteArray &bytes)
 
 QByteArray consoleBytes(const QString &text)
 {
-    return text.toLocal8Bit();
+    // A console has a code page of its own, mostly not that of the system; 0, which stands for the system's,
+    // where there is no console.
+    const UINT codePage = GetConsoleOutputCP();
+    const wchar_t *wide = wideText(text);
+    const int length = text.size();
+    const int needed = WideCharToMultiByte(codePage, 0, wide, length, nullptr, 0, nullptr, nullptr);
+    QByteArray bytes(needed, Qt::Uninitialized);
+    WideCharToMultiByte(codePage, 0, wide, length, bytes.data(), needed, nullptr, nullptr);
+    return bytes;
 }
 
 void setConsoleColour(eConsoleColour colour)
@@ -65,6 +73,7 @@ void setConsoleColour(eConsoleColour colour)
         CreateFileW(L"CONOUT$", GENERIC_WRITE, FILE_SHARE_WRITE, nullptr, OPEN_EXISTING, 0, nullptr);
     if (console == INVALID_HANDLE_VALUE)
         return;
+    std::fflush(stdout);
     SetConsoleTextAttribute(console, colour);
     CloseHandle(console);
 }

@@ -14,10 +14,10 @@
 namespace PYXRuntime::GuiStreamTypes {
 namespace {
 
-constexpr int ColorSize = 11;
-constexpr int PointSize = 8;
-constexpr int DoubleSize = 8;
-constexpr int TransformSize = 9 * DoubleSize;
+constexpr qint64 ColorSize = 11;
+constexpr qint64 PointSize = 8;
+constexpr qint64 DoubleSize = 8;
+constexpr qint64 TransformSize = 9 * DoubleSize;
 constexpr int RectSize = 16;
 constexpr int FontTailSize = 17; // sizes, style hint and strategy, character set, weight, bits
 constexpr int NewFontTailSize = FontTailSize + 11; // and stretch, extended bits, spacings
@@ -51,7 +51,7 @@ bool walkGradient(StreamCursor &cursor, QDataStream::Version version)
 {
     const auto type = cursor.number<qint32>();
     if (isNew(version))
-        cursor.skip(3 * 4); // spread, coordinate mode, interpolation mode
+        cursor.skip(qint64(3) * 4); // spread, coordinate mode, interpolation mode
     cursor.skipArray(DoubleSize + ColorSize);
     switch (type) {
     case QGradient::LinearGradient:

@@ -37,7 +37,7 @@ bool parse(const QString &text, QTime &time)
 /** The wall clock shown with the offset where the zone is not known by its name on every system. */
 QString specificationText(const QDateTime &dateTime)
 {
-    const QString number = QString::number(dateTime.timeSpec());
+    QString number = QString::number(dateTime.timeSpec());
     if (dateTime.timeSpec() == Qt::TimeZone) {
         const QByteArray id = dateTime.timeZone().id();
         if (QTimeZone(id).isValid())

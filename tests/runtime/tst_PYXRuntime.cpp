@@ -245,11 +245,8 @@ void tst_PYXRuntime::loadsSiblingLibraries()
     QVERIFY(core && core->isLoaded());
     QVERIFY(!getReferenceOnQtDLL("NoSuchModule"));
     QVERIFY(!getReferenceOnProjectDLL("NoSuchLibrary"));
-#ifdef Q_OS_WIN
-    const QString directory = QCoreApplication::applicationDirPath();
-#else
-    const QString directory = QCoreApplication::applicationDirPath() + "/../lib";
-#endif
+    const QString directory =
+        QCoreApplication::applicationDirPath() + (QSysInfo::kernelType() == "winnt" ? "" : "/../lib");
     const QScopedPointer<QLibrary> self(getReferenceOnProjectDLL(directory + "/PYXRuntime"));
     QVERIFY(self && self->isLoaded());
     // The infix variable is a last resort: here it makes "Qt5" + "" + "Core" out of a module without name.

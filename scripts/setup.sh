@@ -1,0 +1,58 @@
+#!/bin/bash
+# SPDX-FileCopyrightText: 2026 The PYXRuntime developers
+# SPDX-License-Identifier: LGPL-3.0-or-later
+#
+# setup.sh [--dev] [--windows]: installs with apt what is missing on Debian 12.
+#   (nothing)   to build the library and the demo, and to run the tests
+#   --dev       also clang and its tools, sanitizers, fuzzing, documentation, benchmarks
+#   --windows   also what cross-builds for Windows and runs the result: MinGW and Wine
+# Uses sudo when it is not run by root. Does nothing, quickly, where everything is there.
+set -euo pipefail
+
+base=(ca-certificates ccache cmake fonts-dejavu-core fonts-roboto-unhinted g++ git libkissfft-dev libqt5svg5-dev
+    ninja-build python3 python3-fonttools qtbase5-dev qtbase5-dev-tools sox xauth xvfb)
+dev=(clang clang-format clang-tidy doxygen libbenchmark-dev libclang-rt-14-dev libkf5config-dev libspdlog-dev
+    llvm shellcheck valgrind)
+windows=(binutils-mingw-w64-x86-64 bzip2 dpkg-dev g++-mingw-w64-x86-64-posix make patch perl qt5-qmake-bin wine
+    wine64 xz-utils)
+
+packages=("${base[@]}")
+for option in "$@"; do
+    case $option in
+        --dev) packages+=("${dev[@]}") ;;
+        --windows) packages+=("${windows[@]}") ;;
+        *)
+            echo "usage: setup.sh [--dev] [--windows]" >&2
+            exit 2
+            ;;
+    esac
+done
+
+if ! command -v apt-get >/dev/null || ! command -v dpkg-query >/dev/null; then
+    echo "setup.sh: this system has no apt. Going on with what is installed; needed are (Debian's names):" >&2
+    echo "  ${packages[*]}" >&2
+    exit 0
+fi
+
+installed=$(dpkg-query -W -f='${db:Status-Status} ${Package}\n' "${packages[@]}" 2>/dev/null || true)
+missing=()
+for package in "${packages[@]}"; do
+    grep -qx "installed $package" <<<"$installed" || missing+=("$package")
+done
+if [ ${#missing[@]} -eq 0 ]; then
+    echo "setup.sh: all ${#packages[@]} packages are installed."
+    exit 0
+fi
+
+root=()
+if [ "$(id -u)" -ne 0 ]; then
+    if ! command -v sudo >/dev/null; then
+        echo "setup.sh: not root, and there is no sudo. As root, run:" >&2
+        echo "  apt-get install --no-install-recommends ${missing[*]}" >&2
+        exit 1
+    fi
+    root=(sudo)
+fi
+echo "setup.sh: installing ${missing[*]}"
+"${root[@]}" apt-get -q update
+"${root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q install -y --no-install-recommends "${missing[@]}"
