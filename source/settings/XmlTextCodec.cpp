@@ -29,6 +29,7 @@ constexpr LiteralTable literals(const char *punctuation)
 
 constexpr LiteralTable ValueLiterals = literals(ValuePunctuation);
 constexpr LiteralTable KeyLiterals = literals(KeyPunctuation);
+constexpr LiteralTable WrittenCharacters = literals(" !#()*+-./:;=?@[]_{}~,");
 
 void appendReference(QByteArray &out, ushort unit)
 {
@@ -87,6 +88,12 @@ struReference referenceAt(QStringView text, qsizetype at)
 }
 
 } // namespace
+
+bool isWritten(char c)
+{
+    const auto unit = static_cast<unsigned char>(c);
+    return unit < WrittenCharacters.size() && WrittenCharacters[unit];
+}
 
 void appendEscapedValue(QByteArray &out, QStringView text)
 {
