@@ -25,14 +25,25 @@ constexpr int WrittenKeys = 1000;
 constexpr int KeysPerGroup = 20;
 constexpr int FileCount = 8;
 
-QString groupName(int group)
+QStringList numberedNames(const QString &pattern, int count)
 {
-    return QStringLiteral("Group%1").arg(group);
+    QStringList names;
+    for (int i = 0; i < count; ++i)
+        names.append(pattern.arg(i));
+    return names;
 }
 
-QString keyName(int key)
+// Made once, so that no contender is charged for them.
+const QString &groupName(int group)
 {
-    return QStringLiteral("Key%1").arg(key);
+    static const QStringList names = numberedNames(QStringLiteral("Group%1"), ReadKeys / KeysPerGroup);
+    return names.at(group);
+}
+
+const QString &keyName(int key)
+{
+    static const QStringList names = numberedNames(QStringLiteral("Key%1"), KeysPerGroup);
+    return names.at(key);
 }
 
 QString valueText(int group, int key)

@@ -8,7 +8,7 @@
 
 #include <QtCore/QStringBuilder>
 
-#include <algorithm>
+#include <array>
 #include <cstring>
 #include <utility>
 
@@ -16,40 +16,45 @@ namespace PYXRuntime {
 namespace {
 
 // With the blanks in front, each token of the form is one of these texts or lies between two of them.
-const QLatin1String FileStart("\xEF\xBB\xBF<?xml version=\"1.0\" encoding=\"UTF-8\" ?>\n"
-                              "<PYXXmlSettings version = \"1.0\">\n");
-const QLatin1String RootClosing("</PYXXmlSettings>\n");
-const QLatin1String EntryOpening("<entry>\n");
-const QLatin1String EntryClosing("</entry>\n");
-const QLatin1String GroupOpening("<group name = \"");
-const QLatin1String GroupClosing("</group>\n");
-const QLatin1String ArrayOpening("<array name = \"");
-const QLatin1String ArraySize("\" size = \"");
-const QLatin1String ArrayClosing("</array>\n");
-const QLatin1String ItemOpening("<item index = \"");
-const QLatin1String ItemClosing("</item>\n");
-const QLatin1String OpeningEnd("\">\n");
-const QLatin1String NameOpening("<name>");
-const QLatin1String NameClosing("</name>\n");
-const QLatin1String ValueOpening("<value>");
-const QLatin1String ValueClosing("</value>\n");
+constexpr char FileStart[] = "\xEF\xBB\xBF<?xml version=\"1.0\" encoding=\"UTF-8\" ?>\n"
+                             "<PYXXmlSettings version = \"1.0\">\n";
+constexpr char RootClosing[] = "</PYXXmlSettings>\n";
+constexpr char EntryOpening[] = "<entry>\n";
+constexpr char EntryClosing[] = "</entry>\n";
+constexpr char GroupOpening[] = "<group name = \"";
+constexpr char GroupClosing[] = "</group>\n";
+constexpr char ArrayOpening[] = "<array name = \"";
+constexpr char ArraySize[] = "\" size = \"";
+constexpr char ArrayClosing[] = "</array>\n";
+constexpr char ItemOpening[] = "<item index = \"";
+constexpr char ItemClosing[] = "</item>\n";
+constexpr char OpeningEnd[] = "\">\n";
+constexpr char NameOpening[] = "<name>";
+constexpr char NameClosing[] = "</name>\n";
+constexpr char ValueOpening[] = "<value>";
+constexpr char ValueClosing[] = "</value>\n";
 const QLatin1Char Separator('/');
 const QLatin1String SizeKey("/size");
 
-bool contains(QLatin1String text, char c)
+enum eCharacter : quint8 { ekOther = 0, ekLiteral = 1, ekReference = 2, ekComma = 4 };
+using CharacterTable = std::array<quint8, 256>;
+
+/** The characters of the writer's texts: none of them has a meaning in XML. */
+constexpr CharacterTable writtenCharacters()
 {
-    return std::memchr(text.data(), c, std::size_t(text.size())) != nullptr;
+    CharacterTable table = {};
+    for (std::size_t c = 'A'; c <= 'Z'; ++c)
+        table[c] = table[c + ('a' - 'A')] = ekLiteral;
+    constexpr char Others[] = " 0123456789!#()*+-./:;=?@[]_{}";
+    for (const char c : Others)
+        table[static_cast<std::size_t>(c)] = ekLiteral;
+    table['\0'] = ekOther;
+    table['~'] = ekReference;
+    table[','] = ekComma;
+    return table;
 }
 
-bool isPlain(QLatin1String text)
-{
-    return !contains(text, '~') && !contains(text, '&');
-}
-
-QString unescaped(QLatin1String text)
-{
-    return isPlain(text) ? QString(text) : XmlTextCodec::unescaped(QString(text));
-}
+constexpr CharacterTable Characters = writtenCharacters();
 
 } // namespace
 
@@ -63,17 +68,25 @@ bool XmlSettingsScanner::read(const QByteArray &file, QSettings::SettingsMap &ma
     XmlSettingsScanner scanner(file);
     const bool bOk =
         scanner._take(FileStart) && scanner._readBody(RootClosing, 1) && scanner.m_at == scanner.m_end;
-    if (bOk)
-        map.swap(scanner.m_map);
+    if (bOk) {
+        map.clear();
+        scanner._fill(map);
+    }
     return bOk;
 }
 
-bool XmlSettingsScanner::_take(QLatin1String expected)
+template <std::size_t Size>
+bool XmlSettingsScanner::_sees(const char (&expected)[Size]) const
 {
-    if (m_end - m_at < expected.size() ||
-        std::memcmp(m_at, expected.data(), std::size_t(expected.size())) != 0)
+    return std::size_t(m_end - m_at) >= Size - 1 && std::memcmp(m_at, expected, Size - 1) == 0;
+}
+
+template <std::size_t Size>
+bool XmlSettingsScanner::_take(const char (&expected)[Size])
+{
+    if (!_sees(expected))
         return false;
-    m_at += expected.size();
+    m_at += Size - 1;
     return true;
 }
 
@@ -83,38 +96,63 @@ void XmlSettingsScanner::_skipBlanks()
         ++m_at;
 }
 
-/** A text up to a delimiter, made only of characters that mean themselves in XML. */
-bool XmlSettingsScanner::_takeText(char end, QLatin1String &text)
+XmlSettingsScanner::struText XmlSettingsScanner::_takeText()
 {
     const char *const start = m_at;
-    while (m_at != m_end && XmlTextCodec::isWritten(*m_at))
-        ++m_at;
-    text = QLatin1String(start, m_at);
-    return m_at != m_end && *m_at == end;
+    uint seen = 0;
+    for (; m_at != m_end; ++m_at) {
+        const quint8 character = Characters[static_cast<unsigned char>(*m_at)];
+        if (character == ekOther)
+            break;
+        seen |= character;
+    }
+    return {QLatin1String(start, m_at), (seen & ekReference) == 0, (seen & ekComma) != 0};
 }
 
-bool XmlSettingsScanner::_takeElement(QLatin1String opening, QLatin1String closing, QLatin1String &text)
+bool XmlSettingsScanner::_takeName(struText &name)
 {
-    return _take(opening) && _takeText('<', text) && _take(closing);
+    if (!_take(NameOpening))
+        return false;
+    name = _takeText();
+    return name.text.size() != 0 && _take(NameClosing);
 }
 
-QString XmlSettingsScanner::_key(QLatin1String segment) const
+bool XmlSettingsScanner::_takeValue(struText &value)
 {
-    if (m_parentKey.isNull())
-        return unescaped(segment);
-    return isPlain(segment) ? QString(m_parentKey % Separator % segment)
-                            : QString(m_parentKey % Separator % unescaped(segment));
+    if (!_take(ValueOpening))
+        return false;
+    value = _takeText();
+    return _take(ValueClosing);
 }
 
-void XmlSettingsScanner::_store(const QString &key, QLatin1String text)
+QString XmlSettingsScanner::_key(const struText &segment) const
 {
-    const bool bLiteral = isPlain(text) && !contains(text, ',') && !text.startsWith(QLatin1Char('@'));
-    const QVariant value = bLiteral ? QVariant(QString(text)) : XmlValueCodec::decoded(QString(text));
-    if (value.isValid())
-        m_map.insert(m_map.constEnd(), key, value);
+    if (!segment.bPlain) {
+        const QString text = XmlTextCodec::unescaped(QString(segment.text));
+        return m_parentKey.isNull() ? text : m_parentKey % Separator % text;
+    }
+    return m_parentKey.isNull() ? QString(segment.text) : m_parentKey % Separator % segment.text;
 }
 
-bool XmlSettingsScanner::_readBody(QLatin1String closing, int level)
+void XmlSettingsScanner::_fill(QSettings::SettingsMap &map) const
+{
+    for (const struFound &found : m_found) {
+        const QString written(found.text.text);
+        const bool bLiteral = found.text.bPlain && !found.text.bList && !written.startsWith(QLatin1Char('@'));
+        if (found.bSize) {
+            map.insert(map.constEnd(), found.key, written.toInt());
+        } else if (bLiteral) {
+            map.insert(map.constEnd(), found.key, written);
+        } else {
+            const QVariant value = XmlValueCodec::decoded(written);
+            if (value.isValid())
+                map.insert(map.constEnd(), found.key, value);
+        }
+    }
+}
+
+template <std::size_t Size>
+bool XmlSettingsScanner::_readBody(const char (&closing)[Size], int level)
 {
     for (_skipBlanks(); !_take(closing); _skipBlanks()) {
         if (!_readChild(level + 1))
@@ -130,58 +168,62 @@ bool XmlSettingsScanner::_readChild(int level)
         return false;
     if (_take(EntryOpening))
         return _readEntry();
-    QLatin1String segment;
     if (_take(GroupOpening)) {
-        return _takeText('"', segment) && _take(OpeningEnd) &&
-               _readNested(_key(segment), GroupClosing, level);
+        const struText name = _takeText();
+        return _take(OpeningEnd) && _readNested(_key(name), GroupClosing, false, level);
     }
     if (_take(ArrayOpening))
         return _readArray(level);
-    // The general reader knows whether there may be an item here; the writer has it in arrays only.
-    return m_bInArray && _take(ItemOpening) && _takeText('"', segment) && _take(OpeningEnd) &&
-           _readNested(m_parentKey % Separator % segment, ItemClosing, level);
+    if (!m_bInArray || !_take(ItemOpening))
+        return false;
+    const struText index = _takeText(); // stands as it is
+    return _take(OpeningEnd) && _readNested(m_parentKey % Separator % index.text, ItemClosing, false, level);
 }
 
 bool XmlSettingsScanner::_readEntry()
 {
-    QLatin1String name;
+    struText name;
+    struText value;
     _skipBlanks();
-    if (!_takeElement(NameOpening, NameClosing, name) || name.isEmpty())
+    if (!_takeName(name))
         return false;
     _skipBlanks();
-    QLatin1String value;
     if (_take(EntryClosing))
         return true;
-    if (!_takeElement(ValueOpening, ValueClosing, value))
+    if (!_takeValue(value))
         return false;
-    _store(_key(name), value);
+    m_found.push_back({_key(name), value});
     _skipBlanks();
     return _take(EntryClosing);
 }
 
 bool XmlSettingsScanner::_readArray(int level)
 {
-    QLatin1String name;
-    QLatin1String size;
-    if (!_takeText('"', name) || !_take(ArraySize) || !_takeText('"', size) || !_take(OpeningEnd))
+    const struText name = _takeText();
+    if (!_take(ArraySize))
+        return false;
+    const struText size = _takeText();
+    if (!_take(OpeningEnd))
         return false;
     const QString key = _key(name);
-    m_map.insert(m_map.constEnd(), key % SizeKey, QString(size).toInt());
-    return _readNested(key, ArrayClosing, level);
+    m_found.push_back({key % SizeKey, size, true});
+    return _readNested(key, ArrayClosing, true, level);
 }
 
 /** What a group, an array or an item holds, behind its opening line. */
-bool XmlSettingsScanner::_readNested(const QString &key, QLatin1String closing, int level)
+template <std::size_t Size>
+bool XmlSettingsScanner::_readNested(const QString &key, const char (&closing)[Size], bool bIsArray,
+                                     int level)
 {
-    QLatin1String value;
     _skipBlanks();
-    if (m_end - m_at >= ValueOpening.size() && std::equal(ValueOpening.begin(), ValueOpening.end(), m_at)) {
-        if (!_takeElement(ValueOpening, ValueClosing, value))
+    if (_sees(ValueOpening)) {
+        struText value;
+        if (!_takeValue(value))
             return false;
-        _store(key, value);
+        m_found.push_back({key, value});
     }
     const QString parentKey = std::exchange(m_parentKey, key);
-    const bool bInArray = std::exchange(m_bInArray, closing == ArrayClosing);
+    const bool bInArray = std::exchange(m_bInArray, bIsArray);
     const bool bOk = _readBody(closing, level);
     m_parentKey = parentKey;
     m_bInArray = bInArray;

@@ -5,6 +5,8 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QSettings>
 
+#include <vector>
+
 namespace PYXRuntime {
 
 /**
@@ -19,25 +21,47 @@ public:
     static bool read(const QByteArray &file, QSettings::SettingsMap &map);
 
 private:
+    /** A text that means itself in XML. */
+    struct struText
+    {
+        QLatin1String text;
+        bool bPlain = false; ///< nothing to unescape
+        bool bList = false;
+    };
+
+    /** A value that is only decoded at the end: keys that lie together in memory are compared faster. */
+    struct struFound
+    {
+        QString key;
+        struText text;
+        bool bSize = false; ///< an array's size
+    };
+
     explicit XmlSettingsScanner(const QByteArray &file);
 
-    bool _take(QLatin1String expected);
-    bool _takeText(char end, QLatin1String &text);
-    bool _takeElement(QLatin1String opening, QLatin1String closing, QLatin1String &text);
+    template <std::size_t Size>
+    bool _sees(const char (&expected)[Size]) const;
+    template <std::size_t Size>
+    bool _take(const char (&expected)[Size]);
+    struText _takeText();
+    bool _takeName(struText &name);
+    bool _takeValue(struText &value);
     void _skipBlanks();
-    bool _readBody(QLatin1String closing, int level);
+    template <std::size_t Size>
+    bool _readBody(const char (&closing)[Size], int level);
     bool _readChild(int level);
     bool _readEntry();
-    bool _readNested(const QString &key, QLatin1String closing, int level);
+    template <std::size_t Size>
+    bool _readNested(const QString &key, const char (&closing)[Size], bool bIsArray, int level);
     bool _readArray(int level);
-    void _store(const QString &key, QLatin1String text);
-    QString _key(QLatin1String segment) const;
+    void _fill(QSettings::SettingsMap &map) const;
+    QString _key(const struText &segment) const;
 
     const char *m_at;
     const char *const m_end;
     QString m_parentKey; ///< null at the root
     bool m_bInArray = false;
-    QSettings::SettingsMap m_map;
+    std::vector<struFound> m_found;
 };
 
 } // namespace PYXRuntime

@@ -12,9 +12,6 @@
  */
 namespace PYXRuntime::XmlTextCodec {
 
-/** Whether escaped texts, and lists of them, may have the character. */
-bool isWritten(char c);
-
 /** Appends a name, a value or a list element. */
 void appendEscapedValue(QByteArray &out, QStringView text);
 
