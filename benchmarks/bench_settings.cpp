@@ -179,15 +179,15 @@ int main(int argc, char **argv)
     QCoreApplication application(argc, argv);
     benchmark::RegisterBenchmark("settings/read/PYXXml", readStore<XmlStore>)->Unit(benchmark::kMillisecond);
     benchmark::RegisterBenchmark("settings/read/Ini", readStore<IniStore>)->Unit(benchmark::kMillisecond);
-    benchmark::RegisterBenchmark("settings/change/PYXXml", changeStore<XmlStore>)
+    benchmark::RegisterBenchmark("settings/sync/PYXXml", changeStore<XmlStore>)
         ->Unit(benchmark::kMillisecond)
         ->UseRealTime();
-    benchmark::RegisterBenchmark("settings/change/Ini", changeStore<IniStore>)
+    benchmark::RegisterBenchmark("settings/sync/Ini", changeStore<IniStore>)
         ->Unit(benchmark::kMillisecond)
         ->UseRealTime();
 #ifdef PYX_HAS_KCONFIG
     benchmark::RegisterBenchmark("settings/read/KConfig", readStore<KStore>)->Unit(benchmark::kMillisecond);
-    benchmark::RegisterBenchmark("settings/change/KConfig", changeStore<KStore>)
+    benchmark::RegisterBenchmark("settings/sync/KConfig", changeStore<KStore>)
         ->Unit(benchmark::kMillisecond)
         ->UseRealTime();
 #endif
