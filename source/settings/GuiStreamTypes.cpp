@@ -25,7 +25,7 @@ constexpr int PaletteGroups = 3;
 constexpr int PaletteRoles = 17;
 constexpr int NewPaletteRoles = 20;
 constexpr int MaximumKeys = 4;
-constexpr qint32 RegionOfRects = 6;
+constexpr qint32 RegionOfRects = 10;
 // The union of the rectangles is built one by one, with a copy of the region each time.
 constexpr quint32 MaximumRects = 1024;
 constexpr char PixmapIconEngine[] = "QPixmapIconEngine";

@@ -10,7 +10,7 @@ namespace PYXRuntime {
 namespace {
 
 const QLatin1Char Separator('/');
-const QLatin1String SizeName("size");
+constexpr QStringView SizeName(u"size");
 // The root above the groups, and below them an entry with its <name> and <value>.
 constexpr int MaximumGroups = XmlSettingsNode::MaximumElementLevels - 3;
 
@@ -47,30 +47,49 @@ void XmlSettingsNode::insert(const QString &key, const QVariant &value)
         const int end = key.indexOf(Separator, start);
         if (end < 0)
             break;
-        node = node->_childNode(key.mid(start, end - start));
+        node = node->_childNode(QStringView(key).mid(start, end - start));
         start = end + 1;
     }
-    node->_addEntry(key.mid(start), value);
+    node->_addEntry(QStringView(key).mid(start), value);
 }
 
-XmlSettingsNode *XmlSettingsNode::_childNode(const QString &name)
+/** Where a child of this name is, or is to be inserted. Keys mostly come in order. */
+XmlSettingsNode::Children::iterator XmlSettingsNode::_position(QStringView name)
 {
-    std::unique_ptr<XmlSettingsNode> &child = m_children[name];
-    if (child == nullptr)
-        child = std::make_unique<XmlSettingsNode>(ekNode, name);
-    child->m_kind = ekNode;
-    return child.get();
+    const auto isBefore = [](const auto &child, QStringView other) {
+        return QStringView(child->m_name).compare(other) < 0;
+    };
+    if (m_children.empty() || isBefore(m_children.back(), name))
+        return m_children.end();
+    if (m_children.back()->m_name == name)
+        return m_children.end() - 1;
+    return std::lower_bound(m_children.begin(), m_children.end(), name, isBefore);
 }
 
-void XmlSettingsNode::_addEntry(const QString &name, const QVariant &value)
+bool XmlSettingsNode::_isChildAt(Children::iterator position, QStringView name) const
 {
-    std::unique_ptr<XmlSettingsNode> &child = m_children[name];
-    if (child != nullptr) {
-        qWarning().noquote() << QStringLiteral("Node [%1] already contains [%2]").arg(m_name, name);
+    return position != m_children.end() && (*position)->m_name == name;
+}
+
+XmlSettingsNode *XmlSettingsNode::_childNode(QStringView name)
+{
+    auto position = _position(name);
+    if (!_isChildAt(position, name))
+        position = m_children.insert(position, std::make_unique<XmlSettingsNode>(ekNode, name.toString()));
+    (*position)->m_kind = ekNode;
+    return position->get();
+}
+
+void XmlSettingsNode::_addEntry(QStringView name, const QVariant &value)
+{
+    auto position = _position(name);
+    if (_isChildAt(position, name)) {
+        qWarning().noquote()
+            << QStringLiteral("Node [%1] already contains [%2]").arg(m_name, name.toString());
         return;
     }
-    child = std::make_unique<XmlSettingsNode>(ekEntry, name);
-    child->m_value = value;
+    position = m_children.insert(position, std::make_unique<XmlSettingsNode>(ekEntry, name.toString()));
+    (*position)->m_value = value;
 }
 
 void XmlSettingsNode::classify()
@@ -81,7 +100,7 @@ void XmlSettingsNode::classify()
 void XmlSettingsNode::_classifyChildren()
 {
     for (const auto &child : m_children)
-        child.second->_classifyBelow(m_kind);
+        child->_classifyBelow(m_kind);
 }
 
 void XmlSettingsNode::_classifyBelow(eKind parentKind)
@@ -101,20 +120,20 @@ void XmlSettingsNode::_classifyBelow(eKind parentKind)
     _classifyChildren();
 }
 
-bool XmlSettingsNode::_isArrayCandidate() const
+bool XmlSettingsNode::_isArrayCandidate()
 {
-    const auto size = m_children.find(SizeName);
-    if (size == m_children.end() || size->second->m_kind != ekEntry ||
-        size->second->m_value.userType() != QMetaType::Int)
+    const auto size = _position(SizeName);
+    if (!_isChildAt(size, SizeName) || (*size)->m_kind != ekEntry ||
+        (*size)->m_value.userType() != QMetaType::Int)
         return false;
-    const auto hasDigits = [](const auto &child) { return isDigits(child.first); };
+    const auto hasDigits = [](const auto &child) { return isDigits(child->m_name); };
     return m_children.size() == 1 || std::any_of(m_children.begin(), m_children.end(), hasDigits);
 }
 
 void XmlSettingsNode::_takeSize()
 {
-    const auto size = m_children.find(SizeName);
-    m_attributes.insert(SizeName, QString::number(size->second->m_value.toInt()));
+    const auto size = _position(SizeName);
+    m_attributes.insert(SizeName.toString(), QString::number((*size)->m_value.toInt()));
     m_children.erase(size);
 }
 

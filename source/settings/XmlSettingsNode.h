@@ -4,10 +4,11 @@
 
 #include <QtCore/QMap>
 #include <QtCore/QString>
+#include <QtCore/QStringView>
 #include <QtCore/QVariant>
 
-#include <map>
 #include <memory>
+#include <vector>
 
 namespace PYXRuntime {
 
@@ -23,8 +24,8 @@ public:
         ekArray = 4,
         ekItem = 5
     };
-    /** In the order of UTF-16 code units. */
-    using Children = std::map<QString, std::unique_ptr<XmlSettingsNode>>;
+    /** Sorted by their names in the order of UTF-16 code units. */
+    using Children = std::vector<std::unique_ptr<XmlSettingsNode>>;
 
     /** Elements that a file may have inside each other; the reader refuses a deeper file. */
     static constexpr int MaximumElementLevels = 512;
@@ -49,11 +50,13 @@ public:
     const QMap<QString, QString> &attributes() const { return m_attributes; }
 
 private:
-    XmlSettingsNode *_childNode(const QString &name);
-    void _addEntry(const QString &name, const QVariant &value);
+    Children::iterator _position(QStringView name);
+    bool _isChildAt(Children::iterator position, QStringView name) const;
+    XmlSettingsNode *_childNode(QStringView name);
+    void _addEntry(QStringView name, const QVariant &value);
     void _classifyChildren();
     void _classifyBelow(eKind parentKind);
-    bool _isArrayCandidate() const;
+    bool _isArrayCandidate();
     void _takeSize();
 
     eKind m_kind;

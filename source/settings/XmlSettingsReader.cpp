@@ -3,6 +3,7 @@
 #include "XmlSettingsReader.h"
 
 #include "XmlSettingsNode.h"
+#include "XmlSettingsScanner.h"
 #include "XmlTextCodec.h"
 #include "XmlValueCodec.h"
 
@@ -51,8 +52,8 @@ QString childKey(const QString &parentKey, const QString &segment)
 
 } // namespace
 
-XmlSettingsReader::XmlSettingsReader(QIODevice &device)
-    : m_xml(&device)
+XmlSettingsReader::XmlSettingsReader(const QByteArray &file)
+    : m_xml(file)
     , m_version(KnownVersion)
 {
     // Prefixes are parts of names here: an undeclared one is only a misplaced element.
@@ -62,7 +63,13 @@ XmlSettingsReader::XmlSettingsReader(QIODevice &device)
 
 bool XmlSettingsReader::read(QIODevice &device, QSettings::SettingsMap &map)
 {
-    XmlSettingsReader reader(device);
+    const QByteArray file = device.readAll();
+    return XmlSettingsScanner::read(file, map) || readAnyXml(file, map);
+}
+
+bool XmlSettingsReader::readAnyXml(const QByteArray &file, QSettings::SettingsMap &map)
+{
+    XmlSettingsReader reader(file);
     const bool bOk = reader._findRoot() && reader._readRoot();
     reader._finish();
     if (reader.m_xml.hasError()) {
@@ -78,7 +85,7 @@ bool XmlSettingsReader::read(QIODevice &device, QSettings::SettingsMap &map)
 
 bool XmlSettingsReader::readVersion(QIODevice &device, QString &version)
 {
-    XmlSettingsReader reader(device);
+    XmlSettingsReader reader(device.readAll());
     const bool bOk = reader._findRoot();
     reader._finish();
     if (reader.m_xml.hasError()) {

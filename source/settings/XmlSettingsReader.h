@@ -24,13 +24,16 @@ public:
      */
     static bool read(QIODevice &device, QSettings::SettingsMap &map);
 
+    /** The same for the bytes of a file, without the short cut for files in the writer's own form. */
+    static bool readAnyXml(const QByteArray &file, QSettings::SettingsMap &map);
+
     /** The file check: root and version only. */
     static bool readVersion(QIODevice &device, QString &version);
 
 private:
     enum eOwner { ekRoot, ekArray, ekGroup, ekItem };
 
-    explicit XmlSettingsReader(QIODevice &device);
+    explicit XmlSettingsReader(const QByteArray &file);
 
     bool _nextIsElement();
     void _advance();

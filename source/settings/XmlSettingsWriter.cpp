@@ -73,20 +73,27 @@ void XmlSettingsWriter::_beginLine(int indentation)
     m_bytes.append('\n').append(indentation, ' ');
 }
 
+/** The key of the node that is being written, for messages. */
+QString XmlSettingsWriter::_key() const
+{
+    QStringList segments;
+    for (const XmlSettingsNode *node : m_path)
+        segments.append(node->name());
+    return segments.mid(1).join(QLatin1Char('/'));
+}
+
 void XmlSettingsWriter::_emitNode(const XmlSettingsNode &node, int indentation)
 {
-    const int parentKeyLength = m_key.size();
-    if (node.kind() != XmlSettingsNode::ekRoot)
-        m_key += (m_key.isEmpty() ? QString() : QStringLiteral("/")) + node.name();
+    m_path.push_back(&node);
     const QByteArray tag = tagOf(node);
     _emitOpening(node, tag, indentation);
     if (node.value().isValid())
         _emitValue(node, indentation + IndentationStep);
     for (const auto &child : node.children())
-        _emitNode(*child.second, indentation + IndentationStep);
+        _emitNode(*child, indentation + IndentationStep);
     _beginLine(indentation);
     m_bytes.append("</").append(tag).append('>');
-    m_key.truncate(parentKeyLength);
+    m_path.pop_back();
 }
 
 void XmlSettingsWriter::_emitOpening(const XmlSettingsNode &node, const QByteArray &tag, int indentation)
@@ -117,7 +124,7 @@ void XmlSettingsWriter::_emitValue(const XmlSettingsNode &node, int indentation)
         m_bytes.truncate(lineStart);
         const QString message = QStringLiteral("The value of the settings key \"%1\" is not saved: its type "
                                                "\"%2\" cannot be stored in a file.");
-        PYXTraceWrapper::staticTraceWarn(message.arg(m_key, QLatin1String(node.value().typeName())),
+        PYXTraceWrapper::staticTraceWarn(message.arg(_key(), QLatin1String(node.value().typeName())),
                                          SourceTag, ushort(__LINE__));
         return;
     }

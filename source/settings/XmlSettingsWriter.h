@@ -5,6 +5,8 @@
 #include <QtCore/QByteArray>
 #include <QtCore/QSettings>
 
+#include <vector>
+
 class QIODevice;
 
 namespace PYXRuntime {
@@ -29,9 +31,10 @@ private:
     void _emitOpening(const XmlSettingsNode &node, const QByteArray &tag, int indentation);
     void _emitValue(const XmlSettingsNode &node, int indentation);
     void _beginLine(int indentation);
+    QString _key() const;
 
     QByteArray m_bytes;
-    QString m_key; ///< of the node that is being written, for messages
+    std::vector<const XmlSettingsNode *> m_path; ///< from the root to the node being written
 };
 
 } // namespace PYXRuntime

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "XmlTextCodec.h"
 
+#include <algorithm>
 #include <array>
 
 namespace PYXRuntime::XmlTextCodec {
@@ -40,12 +41,20 @@ void appendReference(QByteArray &out, ushort unit)
 
 void appendEscaped(QByteArray &out, QStringView text, const LiteralTable &literal)
 {
-    for (const QChar c : text) {
-        const ushort unit = c.unicode();
-        if (unit < literal.size() && literal[unit])
-            out.append(static_cast<char>(unit));
-        else
-            appendReference(out, unit);
+    const auto isLiteral = [&literal](QChar c) {
+        return c.unicode() < literal.size() && literal[c.unicode()];
+    };
+    for (qsizetype i = 0; i < text.size();) {
+        qsizetype end = i;
+        while (end < text.size() && isLiteral(text[end]))
+            ++end;
+        const int size = out.size();
+        out.resize(size + int(end - i));
+        std::transform(text.begin() + i, text.begin() + end, out.begin() + size,
+                       [](QChar c) { return c.toLatin1(); });
+        i = end;
+        if (i < text.size())
+            appendReference(out, text[i++].unicode());
     }
 }
 
