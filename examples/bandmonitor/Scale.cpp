@@ -27,6 +27,7 @@ std::vector<double> ticks(double low, double high, double step)
     std::vector<double> values;
     const double first = std::ceil(low / step - 1e-6);
     const int count = int(std::floor(high / step + 1e-6) - first) + 1;
+    values.reserve(std::size_t(std::max(count, 0)));
     for (int i = 0; i < count; ++i)
         values.push_back((first + i) * step + 0.0); // -0 becomes 0
     return values;
