@@ -199,6 +199,7 @@ void tst_PYXTraceWrapper::tracerList()
     PYXTraceWrapper::addTracer(&second);
     PYXTraceWrapper::addTracer(&first);
     PYXTraceWrapper::addTracer(nullptr);
+    PYXTraceWrapper::addTracer(PYXTraceWrapper::tracer()); // would call itself
     QCOMPARE(PYXTraceWrapper::tracers(), (QList<Interfaces::IPYXTracer *>{&first, &second}));
     QVERIFY(!PYXTraceWrapper::containsTracer(nullptr));
     PYXTraceWrapper::removeTracer(nullptr);
