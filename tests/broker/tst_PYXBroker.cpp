@@ -45,6 +45,7 @@ private slots:
     void deadTopIsSweptAndAnswersNullOnce();
     void unregisteringRemovesEveryOccurrence();
     void unregisteringNullRemovesTheDead();
+    void unregisteringWhatIsGone();
     void signalsOfUnregistering();
     void slotsMayCallBack();
     void copyOfAllObjects();
@@ -55,6 +56,7 @@ private slots:
     void registrationGuard();
     void dumpOfRegistrations();
     void waitingWithEvents();
+    void waitingEndsWhenTheApplicationQuits();
     void waitingInAThread();
     void transactionsNest();
     void transactionsExcludeOtherThreads();
@@ -130,6 +132,20 @@ void tst_PYXBroker::unregisteringNullRemovesTheDead()
     dead.reset();
     broker()->unregisterObject(m_id, 0, nullptr);
     QCOMPARE(broker()->topObject(m_id, 0), &a);
+    broker()->unregisterObject(m_id, 0, &a);
+}
+
+void tst_PYXBroker::unregisteringWhatIsGone()
+{
+    QObject a;
+    auto mortal = std::make_unique<QObject>();
+    broker()->registerObject(m_id, 0, mortal.get());
+    broker()->registerObject(m_id, 0, &a);
+    broker()->unregisterObject(m_id, 0, mortal.get());
+    connect(mortal.get(), &QObject::destroyed, this,
+            [this](QObject *gone) { broker()->unregisterObject(m_id, 0, gone); });
+    mortal.reset();
+    QCOMPARE(broker()->registeredObjects(m_id, 0), QList<QObject *>{&a});
     broker()->unregisterObject(m_id, 0, &a);
 }
 
@@ -290,12 +306,27 @@ void tst_PYXBroker::waitingWithEvents()
     QObject a, unrelated;
     QCOMPARE(broker()->waitForObject(m_id, 0, 0), nullptr);
     QCOMPARE(broker()->waitForObject(m_id, 0, 5), nullptr);
-    QTimer::singleShot(0, this, [&] { broker()->registerObject(m_id, 1, &unrelated); });
-    std::thread other([&] { broker()->registerObject(m_id, 0, &a); });
-    QCOMPARE(broker()->waitForObject(m_id, 0, -1), &a);
+    std::thread other;
+    QTimer::singleShot(0, this, [&] {
+        broker()->registerObject(m_id, 1, &unrelated);
+        other = std::thread([&] { broker()->registerObject(m_id, 0, &a); });
+    });
+    QCOMPARE(broker()->waitForObject(m_id, 0, -7), &a);
     other.join();
     broker()->unregisterObject(m_id, 0, &a);
     broker()->unregisterObject(m_id, 1, &unrelated);
+}
+
+void tst_PYXBroker::waitingEndsWhenTheApplicationQuits()
+{
+    QElapsedTimer elapsed;
+    elapsed.start();
+    QTimer::singleShot(0, this, [&] {
+        QTimer::singleShot(0, QCoreApplication::instance(), &QCoreApplication::quit);
+        QCOMPARE(broker()->waitForObject(m_id, 0, 30'000), nullptr);
+    });
+    QCoreApplication::exec();
+    QVERIFY(elapsed.elapsed() < 15'000);
 }
 
 void tst_PYXBroker::waitingInAThread()
