@@ -6,6 +6,7 @@
 
 #include <QtTest/QtTest>
 
+#include <future>
 #include <thread>
 #include <vector>
 
@@ -42,6 +43,7 @@ class tst_PYXBroker : public QObject
 private slots:
     void init() { m_id = QUuid::createUuid(); }
     void newestRegistrationHidesEarlierOnes();
+    void slotsOfOneCachePlaceAreToldApart();
     void deadTopIsSweptAndAnswersNullOnce();
     void unregisteringRemovesEveryOccurrence();
     void unregisteringNullRemovesTheDead();
@@ -86,6 +88,26 @@ void tst_PYXBroker::newestRegistrationHidesEarlierOnes()
     broker()->unregisterObject(m_id, 7, &a);
     QVERIFY(broker()->registeredNames(m_id).isEmpty());
     QVERIFY(broker()->registeredObjects(m_id, 0).isEmpty());
+}
+
+void tst_PYXBroker::slotsOfOneCachePlaceAreToldApart()
+{
+    // The remembered slot depends on the name's last bits and on parts of the identifier.
+    QUuid twin = m_id;
+    twin.data2 ^= 1;
+    QObject a, b, c;
+    broker()->registerObject(m_id, 0, &a);
+    broker()->registerObject(m_id, 64, &b);
+    broker()->registerObject(twin, 0, &c);
+    QCOMPARE(broker()->topObject(m_id, 0), &a);
+    QCOMPARE(broker()->topObject(m_id, 64), &b);
+    QCOMPARE(broker()->topObject(m_id, 0), &a);
+    QCOMPARE(broker()->topObject(twin, 0), &c);
+    broker()->unregisterObject(twin, 0, &c);
+    QCOMPARE(broker()->topObject(twin, 0), nullptr);
+    broker()->unregisterObject(m_id, 64, &b);
+    broker()->unregisterObject(m_id, 0, &a);
+    QCOMPARE(broker()->topObject(m_id, 0), nullptr);
 }
 
 void tst_PYXBroker::deadTopIsSweptAndAnswersNullOnce()
@@ -166,6 +188,8 @@ void tst_PYXBroker::signalsOfUnregistering()
     broker()->unregisterObject(m_id, 0, &stranger); // known name, unknown object
     QCOMPARE(emitted(), (QList<int>{1, 2, 1}));
     broker()->unregisterObject(m_id, 0, &a);
+    QCOMPARE(emitted(), (QList<int>{1, 3, 2}));
+    broker()->unregisterObject(m_id, 0, &a); // the identifier went with its last registration
     QCOMPARE(emitted(), (QList<int>{1, 3, 2}));
     QCOMPARE(unregistered.last().at(0).toUuid(), m_id);
     QCOMPARE(unregistered.last().at(1).toUInt(), 0U);
@@ -334,11 +358,14 @@ void tst_PYXBroker::waitingInAThread()
     QObject a;
     QObject *late = &a;
     QObject *found = nullptr;
+    std::promise<void> ready;
     std::thread waiting([&] {
         late = broker()->waitForObject(m_id, 0, 5);
-        found = broker()->waitForObject(m_id, 1, 30'000);
+        ready.set_value();
+        found = broker()->waitForObject(m_id, 1, 10'000);
     });
     broker()->registerObject(m_id, 2, &a);
+    ready.get_future().wait(); // so that the thread most likely waits when the object comes
     broker()->registerObject(m_id, 1, &a);
     waiting.join();
     QCOMPARE(late, nullptr);

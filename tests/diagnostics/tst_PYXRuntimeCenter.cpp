@@ -205,12 +205,12 @@ void tst_PYXRuntimeCenter::configFilePlaces()
     const QString fromPreferred = runProbe({"loop", "Foo"}).output;
     QVERIFY(preferred.open(QIODevice::WriteOnly) && preferred.write("*:+d") > 0);
     preferred.close();
-    const QString ofStarScope = runProbe({"star", "*", "Foo"}).output;
+    const QString ofStarScope = runProbe({"star", "*", "Late"}).output;
     QVERIFY(config.remove() && preferred.remove());
     QCOMPARE(fromBeside, QString("toTrace d0 w1\nFoo known d1 w1\n"));
     QCOMPARE(fromPreferred, QString("toTrace d0 w1\nFoo unknown d0 w1\n"));
     // A scope that is really called "*" is meant itself.
-    QCOMPARE(ofStarScope, QString("toTrace d0 w1\n* known d1 w1\nFoo unknown d0 w1\n"));
+    QCOMPARE(ofStarScope, QString("toTrace d0 w1\n* known d1 w1\nLate known d0 w1\n"));
 }
 
 void tst_PYXRuntimeCenter::switchesWhileOthersWrite()
