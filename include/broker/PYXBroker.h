@@ -62,7 +62,7 @@ public:
     void registerObject(const QUuid &id, uint name, QObject *obj);
     /**
      * Removes every registration of the object in the slot; null removes the registrations of destroyed
-     * objects.
+     * objects. The object is not looked into: it may be gone already.
      */
     void unregisterObject(const QUuid &id, uint name, QObject *obj);
     /**
@@ -85,7 +85,7 @@ public:
      * Waits until the slot has a live object. In the thread of the application object, events are
      * processed meanwhile (user input is held back); any other thread is blocked.
      * @param milliseconds longest time to wait; negative: without limit
-     * @return the object on top, or null if there was none in time
+     * @return the object on top, or null if there was none in time or before the application quits
      */
     QObject *waitForObject(const QUuid &id, uint name, int milliseconds) const;
 

@@ -108,7 +108,7 @@ private:
 
     static bool _mayWriteDebug(uint token)
     {
-        return s_debugGate[token % s_debugGate.size()].load(std::memory_order_relaxed);
+        return s_debugGate[token % s_debugGate.size()].load(std::memory_order_relaxed) != 0;
     }
     static bool _isDebugEnabled(uint token);
     static void _writeDebug(uint token, const QString &text);
@@ -117,13 +117,13 @@ private:
     static bool _applyGlobalOption(const QString &option);
     static bool _applyScopeOption(uint token, const QString &option);
     RuntimeScope _scope(uint token) const;
-    void _updateDebugGate();
+    static void _switchDebug(uint token, RuntimeScope &scope, bool enabled);
 
     /**
-     * True where a scope whose token falls into the slot has debug on: lets a disabled message end
-     * without a call or a look-up.
+     * How many scopes whose token falls into the slot have debug on: lets a disabled message end without
+     * a call or a look-up.
      */
-    static std::array<std::atomic<bool>, 1024> s_debugGate;
+    static std::array<std::atomic<int>, 1024> s_debugGate;
 
     bool m_bDebugDefault = false;
     bool m_bWarningDefault = true;

@@ -37,7 +37,10 @@ public:
     /** The singleton seen through its tracer interface; created on first use. */
     static Interfaces::IPYXTracer *tracer();
 
-    /** Plugs a tracer in; null and a tracer already present are ignored. The caller keeps ownership. */
+    /**
+     * Plugs a tracer in; null, a tracer already present and the wrapper itself are ignored. The caller
+     * keeps ownership.
+     */
     static void addTracer(Interfaces::IPYXTracer *tracer);
     /** Unplugs a tracer; this must happen before the tracer is destroyed. */
     static void removeTracer(Interfaces::IPYXTracer *tracer);

@@ -58,8 +58,9 @@ PYXRUNTIME_EXPORT void msleep(unsigned long milliseconds);
 PYXRUNTIME_EXPORT void usleep(unsigned long microseconds);
 
 /**
- * Wait while the calling thread's events are processed. A time of zero or less returns at once. Any
- * thread with an event dispatcher.
+ * Wait while the calling thread's events are processed, or less long where the application quits
+ * meanwhile. A time of zero or less returns at once. Any thread; one that can have no events, as all
+ * before QCoreApplication exists, is just blocked.
  */
 PYXRUNTIME_EXPORT void active_sleep(int seconds,
                                     QEventLoop::ProcessEventsFlags flags = QEventLoop::AllEvents);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "BrokerTable.h"
 
+#include <algorithm>
+
 namespace PYXRuntime {
 
 BrokerTable::~BrokerTable()
@@ -35,7 +37,10 @@ bool BrokerTable::remove(const QUuid &id, uint name, QObject *object)
     Slot *const registrations = slot(id, name);
     if (registrations == nullptr)
         return false;
-    registrations->removeAll(object);
+    // Compared as plain pointers: a QPointer made of an object that is gone would look into it.
+    const auto isObjects = [object](const QPointer<QObject> &entry) { return entry.data() == object; };
+    registrations->erase(std::remove_if(registrations->begin(), registrations->end(), isObjects),
+                         registrations->end());
     dropIfEmpty(id, name);
     return true;
 }

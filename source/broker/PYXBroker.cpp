@@ -154,7 +154,8 @@ QObject *PYXBroker::waitForObject(const QUuid &id, uint name, int milliseconds) 
 {
     const bool bHasEvents = QCoreApplication::instance() != nullptr &&
                             QCoreApplication::instance()->thread() == QThread::currentThread();
-    const QDeadlineTimer deadline(milliseconds);
+    const QDeadlineTimer deadline =
+        milliseconds < 0 ? QDeadlineTimer(QDeadlineTimer::Forever) : QDeadlineTimer(milliseconds);
     return bHasEvents ? _waitWithEvents(id, name, deadline) : _waitBlocking(id, name, deadline);
 }
 
@@ -184,8 +185,10 @@ QObject *PYXBroker::_waitWithEvents(const QUuid &id, uint name, QDeadlineTimer d
         // Set again each time: every registration of anything ends one round.
         if (!deadline.isForever())
             timer.start(int(std::min<qint64>(deadline.remainingTime() + 1, std::numeric_limits<int>::max())));
-        loop.exec(QEventLoop::ExcludeUserInputEvents);
+        const bool bQuitting = loop.exec(QEventLoop::ExcludeUserInputEvents) < 0;
         object = newestLiving();
+        if (bQuitting) // no event loop of this thread runs any more
+            break;
     }
     return object;
 }
@@ -198,9 +201,14 @@ void PYXBroker::declareInterface(const QUuid &id, const QString &name)
 
 QString PYXBroker::declaredInterface(const QUuid &id) const
 {
-    const Locker locker(d->interfacesLock);
-    const auto name = d->interfaces.constFind(id);
-    return name != d->interfaces.cend() ? *name : tr("<undeclared interface>");
+    {
+        const Locker locker(d->interfacesLock);
+        const auto name = d->interfaces.constFind(id);
+        if (name != d->interfaces.cend())
+            return *name;
+    }
+    // A translator is foreign code: not called with the lock held.
+    return tr("<undeclared interface>");
 }
 
 QHash<QUuid, QString> PYXBroker::knownInterfaces() const

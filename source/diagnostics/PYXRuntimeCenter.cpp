@@ -9,6 +9,7 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QEvent>
 #include <QtCore/QFile>
+#include <QtCore/QFileInfo>
 #include <QtCore/QTextStream>
 
 #include <mutex>
@@ -38,7 +39,7 @@ bool isSwitch(const QString &option, QLatin1String letters, bool &on)
 
 } // namespace
 
-std::array<std::atomic<bool>, 1024> PYXRuntimeCenter::s_debugGate{};
+std::array<std::atomic<int>, 1024> PYXRuntimeCenter::s_debugGate{};
 
 PYXRuntimeCenter::PYXRuntimeCenter()
 {
@@ -49,7 +50,7 @@ PYXRuntimeCenter::PYXRuntimeCenter()
 PYXRuntimeCenter::~PYXRuntimeCenter()
 {
     for (auto &gate : s_debugGate)
-        gate = false;
+        gate = 0;
 }
 
 PYXRuntimeCenter *PYXRuntimeCenter::getInstance()
@@ -79,10 +80,9 @@ uint PYXRuntimeCenter::registerRuntimeScope(const QString &name, const QString &
     scope.latin1Name = name.toLatin1();
     scope.purpose = purpose;
     if (!bKnown) {
-        scope.debugEnabled = center->m_bDebugDefault;
+        _switchDebug(token, scope, center->m_bDebugDefault);
         scope.warningEnabled = center->m_bWarningDefault;
     }
-    center->_updateDebugGate();
     return token;
 }
 
@@ -155,8 +155,7 @@ void PYXRuntimeCenter::setEnabled_pyxDebug(uint token, bool enabled)
 {
     PYXRuntimeCenter *const center = getInstance();
     const WriteLocker locker(center->m_lock);
-    center->m_scopes[token].debugEnabled = enabled;
-    center->_updateDebugGate();
+    _switchDebug(token, center->m_scopes[token], enabled);
 }
 
 void PYXRuntimeCenter::setEnabled_pyxDebug(const QString &name, bool enabled)
@@ -181,9 +180,8 @@ void PYXRuntimeCenter::setEnabled_pyxDebug(bool enabled)
     PYXRuntimeCenter *const center = getInstance();
     const WriteLocker locker(center->m_lock);
     center->m_bDebugDefault = enabled;
-    for (RuntimeScope &scope : center->m_scopes)
-        scope.debugEnabled = enabled;
-    center->_updateDebugGate();
+    for (auto scope = center->m_scopes.begin(); scope != center->m_scopes.end(); ++scope)
+        _switchDebug(scope.key(), *scope, enabled);
 }
 
 void PYXRuntimeCenter::setEnabled_pyxWarning(bool enabled)
@@ -195,15 +193,12 @@ void PYXRuntimeCenter::setEnabled_pyxWarning(bool enabled)
         scope.warningEnabled = enabled;
 }
 
-void PYXRuntimeCenter::_updateDebugGate()
+void PYXRuntimeCenter::_switchDebug(uint token, RuntimeScope &scope, bool enabled)
 {
-    std::array<bool, std::tuple_size_v<decltype(s_debugGate)>> open = {};
-    for (auto scope = m_scopes.cbegin(); scope != m_scopes.cend(); ++scope) {
-        if (scope->debugEnabled)
-            open[scope.key() % open.size()] = true;
-    }
-    for (std::size_t slot = 0; slot < open.size(); ++slot)
-        s_debugGate[slot].store(open[slot], std::memory_order_relaxed);
+    if (scope.debugEnabled == enabled)
+        return;
+    scope.debugEnabled = enabled;
+    s_debugGate[token % s_debugGate.size()].fetch_add(enabled ? 1 : -1, std::memory_order_relaxed);
 }
 
 bool PYXRuntimeCenter::isEnabled_pyxDebugToTrace()
@@ -251,7 +246,8 @@ void PYXRuntimeCenter::handleConfigFiles()
 bool PYXRuntimeCenter::_readConfigFile(const QString &path)
 {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
+    // Opening a pipe would wait for its writer.
+    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Text))
         return false;
     pyx_message_debug_output(QLatin1String("PYXRuntime::PYXRuntimeCenter::_readConfigFile('") + path +
                              QLatin1String("')"));

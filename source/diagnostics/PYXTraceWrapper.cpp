@@ -202,8 +202,10 @@ IPYXTracer *PYXTraceWrapper::tracer()
 
 void PYXTraceWrapper::addTracer(IPYXTracer *tracer)
 {
-    if (tracer != nullptr && !containsTracer(tracer))
-        tracerList().append(tracer);
+    // The wrapper as its own tracer would call itself without end.
+    if (tracer == nullptr || dynamic_cast<PYXTraceWrapper *>(tracer) != nullptr || containsTracer(tracer))
+        return;
+    tracerList().append(tracer);
 }
 
 void PYXTraceWrapper::removeTracer(IPYXTracer *tracer)

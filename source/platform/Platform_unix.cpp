@@ -61,9 +61,11 @@ bool isDebuggerAttached()
     const ssize_t length = read(file, buffer, sizeof buffer - 1);
     close(file);
     const QByteArray status = QByteArray::fromRawData(buffer, int(qMax<ssize_t>(length, 0)));
-    static const QByteArray tag("\nTracerPid:\t");
-    const int at = status.indexOf(tag);
-    return at >= 0 && at + tag.size() < status.size() && status.at(at + tag.size()) != '0';
+    // No static object: traces are written until the process ends, after destructors have run.
+    constexpr char Tag[] = "\nTracerPid:\t";
+    constexpr int TagLength = int(sizeof Tag) - 1;
+    const int at = status.indexOf(Tag);
+    return at >= 0 && at + TagLength < status.size() && status.at(at + TagLength) != '0';
 }
 
 void writeDebuggerLine(const QString &text)

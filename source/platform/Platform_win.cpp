@@ -12,10 +12,8 @@
 namespace PYXRuntime::Platform {
 namespace {
 
-quint64 ticksOf(const SYSTEMTIME &systemTime)
+quint64 ticksOf(const FILETIME &fileTime)
 {
-    FILETIME fileTime = {};
-    SystemTimeToFileTime(&systemTime, &fileTime);
     return (quint64(fileTime.dwHighDateTime) << 32) | fileTime.dwLowDateTime;
 }
 
@@ -103,8 +101,8 @@ quint32 uptimeMilliseconds()
 
 quint64 fileTimeNow()
 {
-    SYSTEMTIME now = {};
-    GetSystemTime(&now);
+    FILETIME now = {};
+    GetSystemTimeAsFileTime(&now);
     return ticksOf(now);
 }
 
@@ -114,7 +112,9 @@ quint64 fileTimeOfUnixEpoch()
     epoch.wYear = 1970;
     epoch.wMonth = 1;
     epoch.wDay = 1;
-    return ticksOf(epoch);
+    FILETIME fileTime = {};
+    SystemTimeToFileTime(&epoch, &fileTime);
+    return ticksOf(fileTime);
 }
 
 QString libraryFileName(const QString &baseName)

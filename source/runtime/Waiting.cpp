@@ -2,12 +2,16 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "PYXRuntime.h"
 
+#include <QtCore/QAbstractEventDispatcher>
+#include <QtCore/QCoreApplication>
 #include <QtCore/QDeadlineTimer>
 #include <QtCore/QThread>
 #include <QtCore/QTimer>
 
 #include <algorithm>
+#include <chrono>
 #include <limits>
+#include <thread>
 
 namespace PYXRuntime {
 namespace {
@@ -17,6 +21,11 @@ void processEventsFor(qint64 milliseconds, QEventLoop::ProcessEventsFlags flags)
 {
     if (milliseconds <= 0)
         return;
+    if (QCoreApplication::instance() == nullptr && QAbstractEventDispatcher::instance() == nullptr) {
+        // No events and no timers here: an event loop would never end.
+        std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+        return;
+    }
     const QDeadlineTimer deadline(milliseconds, Qt::PreciseTimer);
     QEventLoop loop;
     QTimer timer;

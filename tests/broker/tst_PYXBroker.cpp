@@ -6,6 +6,7 @@
 
 #include <QtTest/QtTest>
 
+#include <future>
 #include <thread>
 #include <vector>
 
@@ -42,9 +43,11 @@ class tst_PYXBroker : public QObject
 private slots:
     void init() { m_id = QUuid::createUuid(); }
     void newestRegistrationHidesEarlierOnes();
+    void slotsOfOneCachePlaceAreToldApart();
     void deadTopIsSweptAndAnswersNullOnce();
     void unregisteringRemovesEveryOccurrence();
     void unregisteringNullRemovesTheDead();
+    void unregisteringWhatIsGone();
     void signalsOfUnregistering();
     void slotsMayCallBack();
     void copyOfAllObjects();
@@ -55,6 +58,7 @@ private slots:
     void registrationGuard();
     void dumpOfRegistrations();
     void waitingWithEvents();
+    void waitingEndsWhenTheApplicationQuits();
     void waitingInAThread();
     void transactionsNest();
     void transactionsExcludeOtherThreads();
@@ -84,6 +88,26 @@ void tst_PYXBroker::newestRegistrationHidesEarlierOnes()
     broker()->unregisterObject(m_id, 7, &a);
     QVERIFY(broker()->registeredNames(m_id).isEmpty());
     QVERIFY(broker()->registeredObjects(m_id, 0).isEmpty());
+}
+
+void tst_PYXBroker::slotsOfOneCachePlaceAreToldApart()
+{
+    // The remembered slot depends on the name's last bits and on parts of the identifier.
+    QUuid twin = m_id;
+    twin.data2 ^= 1;
+    QObject a, b, c;
+    broker()->registerObject(m_id, 0, &a);
+    broker()->registerObject(m_id, 64, &b);
+    broker()->registerObject(twin, 0, &c);
+    QCOMPARE(broker()->topObject(m_id, 0), &a);
+    QCOMPARE(broker()->topObject(m_id, 64), &b);
+    QCOMPARE(broker()->topObject(m_id, 0), &a);
+    QCOMPARE(broker()->topObject(twin, 0), &c);
+    broker()->unregisterObject(twin, 0, &c);
+    QCOMPARE(broker()->topObject(twin, 0), nullptr);
+    broker()->unregisterObject(m_id, 64, &b);
+    broker()->unregisterObject(m_id, 0, &a);
+    QCOMPARE(broker()->topObject(m_id, 0), nullptr);
 }
 
 void tst_PYXBroker::deadTopIsSweptAndAnswersNullOnce()
@@ -133,6 +157,20 @@ void tst_PYXBroker::unregisteringNullRemovesTheDead()
     broker()->unregisterObject(m_id, 0, &a);
 }
 
+void tst_PYXBroker::unregisteringWhatIsGone()
+{
+    QObject a;
+    auto mortal = std::make_unique<QObject>();
+    broker()->registerObject(m_id, 0, mortal.get());
+    broker()->registerObject(m_id, 0, &a);
+    broker()->unregisterObject(m_id, 0, mortal.get());
+    connect(mortal.get(), &QObject::destroyed, this,
+            [this](QObject *gone) { broker()->unregisterObject(m_id, 0, gone); });
+    mortal.reset();
+    QCOMPARE(broker()->registeredObjects(m_id, 0), QList<QObject *>{&a});
+    broker()->unregisterObject(m_id, 0, &a);
+}
+
 void tst_PYXBroker::signalsOfUnregistering()
 {
     QSignalSpy registered(broker(), &PYXBroker::si_registered);
@@ -150,6 +188,8 @@ void tst_PYXBroker::signalsOfUnregistering()
     broker()->unregisterObject(m_id, 0, &stranger); // known name, unknown object
     QCOMPARE(emitted(), (QList<int>{1, 2, 1}));
     broker()->unregisterObject(m_id, 0, &a);
+    QCOMPARE(emitted(), (QList<int>{1, 3, 2}));
+    broker()->unregisterObject(m_id, 0, &a); // the identifier went with its last registration
     QCOMPARE(emitted(), (QList<int>{1, 3, 2}));
     QCOMPARE(unregistered.last().at(0).toUuid(), m_id);
     QCOMPARE(unregistered.last().at(1).toUInt(), 0U);
@@ -290,12 +330,27 @@ void tst_PYXBroker::waitingWithEvents()
     QObject a, unrelated;
     QCOMPARE(broker()->waitForObject(m_id, 0, 0), nullptr);
     QCOMPARE(broker()->waitForObject(m_id, 0, 5), nullptr);
-    QTimer::singleShot(0, this, [&] { broker()->registerObject(m_id, 1, &unrelated); });
-    std::thread other([&] { broker()->registerObject(m_id, 0, &a); });
-    QCOMPARE(broker()->waitForObject(m_id, 0, -1), &a);
+    std::thread other;
+    QTimer::singleShot(0, this, [&] {
+        broker()->registerObject(m_id, 1, &unrelated);
+        other = std::thread([&] { broker()->registerObject(m_id, 0, &a); });
+    });
+    QCOMPARE(broker()->waitForObject(m_id, 0, -7), &a);
     other.join();
     broker()->unregisterObject(m_id, 0, &a);
     broker()->unregisterObject(m_id, 1, &unrelated);
+}
+
+void tst_PYXBroker::waitingEndsWhenTheApplicationQuits()
+{
+    QElapsedTimer elapsed;
+    elapsed.start();
+    QTimer::singleShot(0, this, [&] {
+        QTimer::singleShot(0, QCoreApplication::instance(), &QCoreApplication::quit);
+        QCOMPARE(broker()->waitForObject(m_id, 0, 30'000), nullptr);
+    });
+    QCoreApplication::exec();
+    QVERIFY(elapsed.elapsed() < 15'000);
 }
 
 void tst_PYXBroker::waitingInAThread()
@@ -303,11 +358,14 @@ void tst_PYXBroker::waitingInAThread()
     QObject a;
     QObject *late = &a;
     QObject *found = nullptr;
+    std::promise<void> ready;
     std::thread waiting([&] {
         late = broker()->waitForObject(m_id, 0, 5);
-        found = broker()->waitForObject(m_id, 1, 30'000);
+        ready.set_value();
+        found = broker()->waitForObject(m_id, 1, 10'000);
     });
     broker()->registerObject(m_id, 2, &a);
+    ready.get_future().wait(); // so that the thread most likely waits when the object comes
     broker()->registerObject(m_id, 1, &a);
     waiting.join();
     QCOMPARE(late, nullptr);

@@ -10,8 +10,9 @@
 using PYXRuntime::PYXRuntimeCenter;
 
 /**
- * Applies the configuration file beside it, by the event loop ("loop") or by itself ("direct"), registers
- * the scope "Late" and prints the state of the global switches and of each scope named on the command line.
+ * Applies the configuration file beside it, by the event loop ("loop") or by itself ("direct"; "star": with
+ * a scope of that name), registers the scope "Late" and prints the state of the global switches and of each
+ * scope named on the command line.
  */
 int main(int argc, char **argv)
 {
@@ -21,7 +22,10 @@ int main(int argc, char **argv)
         QTimer::singleShot(0, &application, &QCoreApplication::quit);
         QCoreApplication::exec();
     } else {
+        if (arguments.value(1) == "star")
+            PYXRuntimeCenter::registerRuntimeScope("*", "");
         PYXRuntimeCenter::handleConfigFiles();
+        PYXRuntimeCenter::handleConfigFiles(); // has no effect
     }
     PYXRuntimeCenter::registerRuntimeScope("Late", "registered by its module");
     std::printf("toTrace d%d w%d\n", int(PYXRuntimeCenter::isEnabled_pyxDebugToTrace()),

@@ -6,6 +6,7 @@
 #include "RecordingTracer.h"
 
 #include <QtCore/QFile>
+#include <QtCore/QStandardPaths>
 #include <QtTest/QtTest>
 
 #include <thread>
@@ -24,6 +25,7 @@ private slots:
     void registeringAgainKeepsSwitches();
     void switchesOfAllScopesReachLaterOnes();
     void unknownTokensBehaveAsDefaultScope();
+    void scopesInOneGateSlotSwitchApart();
     void messagesGoToTheTrace();
     void disabledTextsAreNotMade();
     void configFile_data();
@@ -84,6 +86,24 @@ void tst_PYXRuntimeCenter::unknownTokensBehaveAsDefaultScope()
     // An unknown name is the scope without a token.
     PYXRuntimeCenter::setEnabled_pyxDebug("nobody", true);
     QVERIFY(PYXRuntimeCenter::isEnabled_pyxDebug(0));
+    PYXRuntimeCenter::setEnabled_pyxWarning("nobody", false);
+    QVERIFY(!PYXRuntimeCenter::isEnabled_pyxWarning(0));
+}
+
+void tst_PYXRuntimeCenter::scopesInOneGateSlotSwitchApart()
+{
+    const uint first = 5;
+    const uint second = first + 1024;
+    PYXRuntimeCenter::setEnabled_pyxDebug(first, true);
+    PYXRuntimeCenter::setEnabled_pyxDebug(first, true);
+    PYXRuntimeCenter::setEnabled_pyxDebug(second, true);
+    PYXRuntimeCenter::setEnabled_pyxDebug(first, false);
+    QVERIFY(!PYXRuntimeCenter::isEnabled_pyxDebug(first));
+    QVERIFY(PYXRuntimeCenter::isEnabled_pyxDebug(second));
+    PYXRuntimeCenter::destroyInstance();
+    QVERIFY(!PYXRuntimeCenter::isEnabled_pyxDebug(second));
+    PYXRuntimeCenter::setEnabled_pyxDebug(second, true);
+    QVERIFY(PYXRuntimeCenter::isEnabled_pyxDebug(second));
 }
 
 void tst_PYXRuntimeCenter::messagesGoToTheTrace()
@@ -173,14 +193,24 @@ void tst_PYXRuntimeCenter::configFilePlaces()
     QVERIFY(config.open(QIODevice::WriteOnly));
     config.write("Foo:+d\n");
     config.close();
-    const QString fromBeside = runProbe({"loop", "Foo"}).output;
     QFile preferred(probeDirectory() + "/config/pyxRuntimeScopes.cfg");
-    QVERIFY(QDir().mkpath(probeDirectory() + "/config") && preferred.open(QIODevice::WriteOnly));
+    QVERIFY(QDir().mkpath(probeDirectory() + "/config"));
+    // What is no file is passed over: nobody writes to this pipe.
+    if (!QStandardPaths::findExecutable("mkfifo").isEmpty())
+        QCOMPARE(QProcess::execute("mkfifo", {preferred.fileName()}), 0);
+    const QString fromBeside = runProbe({"loop", "Foo"}).output;
+    preferred.remove();
+    QVERIFY(preferred.open(QIODevice::WriteOnly));
     preferred.close();
     const QString fromPreferred = runProbe({"loop", "Foo"}).output;
+    QVERIFY(preferred.open(QIODevice::WriteOnly) && preferred.write("*:+d") > 0);
+    preferred.close();
+    const QString ofStarScope = runProbe({"star", "*", "Late"}).output;
     QVERIFY(config.remove() && preferred.remove());
     QCOMPARE(fromBeside, QString("toTrace d0 w1\nFoo known d1 w1\n"));
     QCOMPARE(fromPreferred, QString("toTrace d0 w1\nFoo unknown d0 w1\n"));
+    // A scope that is really called "*" is meant itself.
+    QCOMPARE(ofStarScope, QString("toTrace d0 w1\n* known d1 w1\nLate known d0 w1\n"));
 }
 
 void tst_PYXRuntimeCenter::switchesWhileOthersWrite()

@@ -8,6 +8,7 @@
 #include <QtCore/QStandardPaths>
 #include <QtTest/QtTest>
 
+#include <array>
 #include <atomic>
 #include <thread>
 #include <vector>
@@ -199,6 +200,7 @@ void tst_PYXTraceWrapper::tracerList()
     PYXTraceWrapper::addTracer(&second);
     PYXTraceWrapper::addTracer(&first);
     PYXTraceWrapper::addTracer(nullptr);
+    PYXTraceWrapper::addTracer(PYXTraceWrapper::tracer()); // would call itself
     QCOMPARE(PYXTraceWrapper::tracers(), (QList<Interfaces::IPYXTracer *>{&first, &second}));
     QVERIFY(!PYXTraceWrapper::containsTracer(nullptr));
     PYXTraceWrapper::removeTracer(nullptr);
@@ -210,24 +212,37 @@ void tst_PYXTraceWrapper::tracerList()
 
 void tst_PYXTraceWrapper::tracersMayChangeTheList()
 {
-    class SelfRemovingTracer : public RecordingTracer
+    std::array<RecordingTracer, 50> added;
+    class ChangingTracer : public RecordingTracer
     {
     public:
+        explicit ChangingTracer(std::array<RecordingTracer, 50> &tracers)
+            : m_added(tracers)
+        {}
         using RecordingTracer::traceInfo;
         void traceInfo(const QString &text, const char *file, ushort line) override
         {
             RecordingTracer::traceInfo(text, file, line);
             PYXTraceWrapper::removeTracer(this);
+            for (RecordingTracer &tracer : m_added)
+                PYXTraceWrapper::addTracer(&tracer);
         }
+
+    private:
+        std::array<RecordingTracer, 50> &m_added;
     };
-    SelfRemovingTracer first;
-    SelfRemovingTracer second;
+    ChangingTracer first(added);
+    ChangingTracer second(added);
     PYXTraceWrapper::addTracer(&first);
     PYXTraceWrapper::addTracer(&second);
     PYXTraceWrapper::staticTraceInfo(QString("x"), "f", 1);
     QCOMPARE(first.calls.size(), 1);
     QCOMPARE(second.calls.size(), 1);
-    QVERIFY(PYXTraceWrapper::tracers().isEmpty());
+    QCOMPARE(PYXTraceWrapper::tracers().size(), int(added.size()));
+    for (RecordingTracer &tracer : added) {
+        QVERIFY(tracer.calls.isEmpty());
+        PYXTraceWrapper::removeTracer(&tracer);
+    }
 }
 
 void tst_PYXTraceWrapper::singletonIsATracer()

@@ -147,6 +147,7 @@ void tst_PYXRuntime::substitutions()
     QFETCH(QString, substitute);
     QFont::insertSubstitution("Helvetica", "Somebody's");
     initialize_PYXRuntime(ePYXInitializeFlags(flags));
+    QCOMPARE(QFontDatabase().families().contains("KTCorpid"), flags != ekInitialize_NoFonts);
     const bool bSubstituted = QFont::substitutes("Helvetica").contains(substitute, Qt::CaseInsensitive);
     const QString first = QFont::substitute("MS Shell Dlg 2");
     uninitialize_PYXRuntime();
@@ -172,6 +173,11 @@ void tst_PYXRuntime::applicationFontFollowsSubstitution()
     QCOMPARE(familyAfterStart("MS Shell Dlg 2", ekInitialize_CondensedFont), QString("KTCorpid Cd"));
     QCOMPARE(familyAfterStart("MS Shell Dlg 2", ekInitialize_KeepApplicationFont), QString("MS Shell Dlg 2"));
     QCOMPARE(familyAfterStart("Unsubstituted", ekInitialize_Default), QString("Unsubstituted"));
+    // A substitution of the application's own outlives ours.
+    QFont::insertSubstitution("Helvetica", "KTCorpid");
+    QCOMPARE(familyAfterStart("Helvetica", ekInitialize_Default), QString("KTCorpid"));
+    QCOMPARE(QFont::substitutes("Helvetica"), QStringList{"ktcorpid"});
+    QFont::removeSubstitutions("Helvetica");
 }
 
 void tst_PYXRuntime::fontsOnDemand()
@@ -262,6 +268,7 @@ int main(int argc, char **argv)
         std::unique_ptr<QCoreApplication> application;
         if (qstrcmp(argv[2], "no GUI") == 0)
             application = std::make_unique<QCoreApplication>(argc, argv);
+        active_msleep(1); // ends also where there are no events
         const bool bStarted = initialize_PYXRuntime();
         uninitialize_PYXRuntime();
         return bStarted ? 0 : 1;
