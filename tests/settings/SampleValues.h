@@ -13,6 +13,8 @@ inline QVariantList streamedSamples()
     image.fill(Qt::cyan);
     QImage blank(256, 256, QImage::Format_ARGB32);
     blank.fill(Qt::transparent);
+    QBitmap bitmap(4, 4);
+    bitmap.fill(Qt::color1);
     QLinearGradient gradient(1, 2, 3, 4);
     gradient.setStops({{0.0, Qt::red}, {0.5, Qt::blue}, {1.0, Qt::green}});
     QPen pen(QBrush(QConicalGradient(1, 1, 45)), 2.5, Qt::CustomDashLine);
@@ -59,7 +61,7 @@ inline QVariantList streamedSamples()
         image,
         blank,
         QImage(),
-        QBitmap(4, 4),
+        bitmap,
         QIcon(QPixmap::fromImage(image)),
         QBrush(Qt::red, Qt::DiagCrossPattern),
         QBrush(gradient),

@@ -23,6 +23,7 @@ private Q_SLOTS:
     void decodesTextsOfOthers();
     void keepsWhatReadableFormsCannotHold_data();
     void keepsWhatReadableFormsCannotHold();
+    void keepsTheMomentOfNestedTimes();
     void refusesValuesWithoutAForm();
 };
 
@@ -226,6 +227,16 @@ void tst_XmlValueCodec::keepsWhatReadableFormsCannotHold()
     QVERIFY(XmlValueCodec::appendEncoded(text, value));
     QVERIFY(text.contains("@Variant("));
     QCOMPARE(XmlValueCodec::decoded(QString::fromLatin1(text)), value);
+}
+
+void tst_XmlValueCodec::keepsTheMomentOfNestedTimes()
+{
+    const QDateTime time(QDate(2020, 7, 2), QTime(3, 4), QTimeZone("Europe/Berlin"));
+    QByteArray text;
+    QVERIFY(XmlValueCodec::appendEncoded(text, QVariantMap{{"k", QVariantList{time}}}));
+    const QVariant back =
+        XmlValueCodec::decoded(QString::fromLatin1(text)).toMap().value("k").toList().value(0);
+    QCOMPARE(back.toDateTime(), time);
 }
 
 void tst_XmlValueCodec::refusesValuesWithoutAForm()
