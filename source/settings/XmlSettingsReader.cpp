@@ -141,15 +141,15 @@ void XmlSettingsReader::_finish()
         _advance();
 }
 
-/** The text up to the next markup, as far as it is more than white space; leaves the element. */
+/** The text up to the next markup, as far as it is more than white space; never null. Leaves the element. */
 QString XmlSettingsReader::_readText()
 {
     const int inside = m_level;
-    QString found;
+    QString found(QLatin1String(""));
     while (!m_xml.atEnd() && m_level >= inside) {
         _advance();
         const bool bText = m_xml.isCharacters() && m_level == inside && !m_xml.text().isEmpty();
-        if (bText && (found.isNull() || (isBlank(found) && !isBlank(m_xml.text()))))
+        if (bText && (found.isEmpty() || (isBlank(found) && !isBlank(m_xml.text()))))
             found = m_xml.text().toString();
     }
     return found;

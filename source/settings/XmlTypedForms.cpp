@@ -176,6 +176,35 @@ bool decodeVariant(const QString &body, QVariant &value)
            load(payload.toByteArray(), value);
 }
 
+QVariant withUtcTimes(const QVariant &value);
+
+template <typename Container>
+QVariant eachWithUtcTimes(Container container)
+{
+    for (QVariant &element : container)
+        element = withUtcTimes(element);
+    return container;
+}
+
+/** The stream version drops the offsets and zones of date-times: the moment at least is to stay. */
+QVariant withUtcTimes(const QVariant &value)
+{
+    switch (value.userType()) {
+    case QMetaType::QDateTime: {
+        const QDateTime time = value.toDateTime();
+        return time.timeSpec() == Qt::LocalTime ? time : time.toUTC();
+    }
+    case QMetaType::QVariantList:
+        return eachWithUtcTimes(value.toList());
+    case QMetaType::QVariantMap:
+        return eachWithUtcTimes(value.toMap());
+    case QMetaType::QVariantHash:
+        return eachWithUtcTimes(value.toHash());
+    default:
+        return value;
+    }
+}
+
 /** Checked like what is read, so that nothing is written that would not be read back. */
 bool encodeVariant(const QVariant &value, QString &text)
 {
@@ -187,7 +216,7 @@ bool encodeVariant(const QVariant &value, QString &text)
     probeStream.setVersion(PayloadVersion);
     if (!QMetaType::save(probeStream, value.userType(), value.constData()))
         return false;
-    stream << value;
+    stream << withUtcTimes(value);
     if (!VariantStreamChecker(PayloadVersion).accepts(payload))
         return false;
     text = form("Variant", QString::fromLatin1(payload.constData(), payload.size()));

@@ -1,0 +1,516 @@
+// SPDX-FileCopyrightText: 2026 The PYXRuntime developers
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "SampleValues.h"
+#include "WarningRecorder.h"
+#include "XmlSettingsNode.h"
+#include "XmlSettingsReader.h"
+#include "XmlSettingsScanner.h"
+#include "XmlSettingsWriter.h"
+#include "XmlValueCodec.h"
+
+#include <QtTest/QtTest>
+
+using namespace PYXRuntime;
+using Map = QSettings::SettingsMap;
+
+namespace {
+
+const QByteArray
+    Head("\xEF\xBB\xBF<?xml version=\"1.0\" encoding=\"UTF-8\" ?>\n<PYXXmlSettings version = \"1.0\">\n");
+const QByteArray Tail("</PYXXmlSettings>\n");
+
+QByteArray written(const Map &map)
+{
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    return XmlSettingsWriter::write(buffer, map) ? buffer.data() : QByteArray();
+}
+
+bool read(QByteArray file, Map &map)
+{
+    QBuffer buffer(&file);
+    buffer.open(QIODevice::ReadOnly);
+    return XmlSettingsReader::read(buffer, map);
+}
+
+QByteArray xml(const QByteArray &content)
+{
+    return "<PYXXmlSettings>" + content + "</PYXXmlSettings>";
+}
+
+QByteArray entry(const QByteArray &name, const QByteArray &value)
+{
+    return "<entry><name>" + name + "</name><value>" + value + "</value></entry>";
+}
+
+QVariant randomText(QRandomGenerator &random)
+{
+    QString text(""); // not null: a file does not tell the two apart
+    for (int length = random.bounded(12); length > 0; --length) {
+        const int kind = random.bounded(4);
+        text += QChar(kind == 0 ? random.bounded(0x10000) : " ,@~#&;<a()1\n"[random.bounded(13)]);
+    }
+    return text;
+}
+
+QVariant randomValue(QRandomGenerator &random, int level)
+{
+    static const QVariantList streamed = [] {
+        QVariantList samples = streamedSamples();
+        // Its image comes back with the colours of its table exchanged: the same bitmap in other bytes.
+        const auto isBitmap = [](const QVariant &value) { return value.userType() == QMetaType::QBitmap; };
+        samples.erase(std::remove_if(samples.begin(), samples.end(), isBitmap), samples.end());
+        return samples;
+    }();
+    const int number = int(random.generate());
+    switch (random.bounded(level > 2 ? 9 : 13)) {
+    case 0:
+        return number;
+    case 1:
+        return double(number) / 7;
+    case 2:
+        return number < 0;
+    case 3:
+        return QRect(number % 1000, 1, 2, random.bounded(99));
+    case 4:
+        return QByteArray::number(number) + '\0' + char(number);
+    case 5:
+        return QDateTime(QDate(2000, 1, 1).addDays(number % 99999), QTime(12, 1), Qt::OffsetFromUTC,
+                         level == 0 ? number % 50000 : 0);
+    case 6:
+        return streamed.at(random.bounded(streamed.size()));
+    case 7:
+        return QColor::fromRgb(QRgb(number));
+    case 8:
+        return randomText(random);
+    case 9:
+        return QStringList{randomText(random).toString(), randomText(random).toString()};
+    case 10:
+        return QVariantMap{{randomText(random).toString(), randomValue(random, level + 1)}};
+    default: {
+        QVariantList list;
+        for (int length = random.bounded(4); length > 0; --length)
+            list.append(randomValue(random, level + 1));
+        return list;
+    }
+    }
+}
+
+Map randomMap(QRandomGenerator &random)
+{
+    Map map;
+    for (int count = random.bounded(30); count > 0; --count) {
+        QStringList segments;
+        for (int length = 1 + random.bounded(4); length > 0; --length) {
+            const QString names[] = {"a",
+                                     "a b",
+                                     "1",
+                                     "2",
+                                     "07",
+                                     "size",
+                                     "k-" + QString::number(count),
+                                     randomText(random).toString().remove('/') + 'x'};
+            segments.append(names[random.bounded(8)]);
+        }
+        map.insert(segments.join('/'), segments.last() == "size" ? QVariant(count) : randomValue(random, 0));
+    }
+    return map;
+}
+
+/** The value as it is read back: numbers and the like are texts in a file, and so is a list of one text. */
+QVariant asRead(const QVariant &value)
+{
+    switch (value.userType()) {
+    case QMetaType::Bool:
+    case QMetaType::Int:
+    case QMetaType::Double:
+        return value.toString();
+    case QMetaType::QStringList:
+        return value.toStringList().size() == 1 ? value.toStringList().first() : value;
+    case QMetaType::QVariantList: {
+        QVariantList list = value.toList();
+        if (list.size() == 1)
+            return value;
+        bool bTexts = true;
+        for (QVariant &element : list) {
+            const int type = element.userType();
+            const bool bList = type == QMetaType::QVariantList || type == QMetaType::QStringList;
+            element = bList ? element : asRead(element);
+            bTexts = bTexts && element.userType() == QMetaType::QString;
+        }
+        return bTexts ? QVariant(QVariant(list).toStringList()) : QVariant(list);
+    }
+    default:
+        return value;
+    }
+}
+
+/** Types and contents: QVariant compares many types by address, and streams date-times without offsets. */
+QByteArray contentOf(const QVariant &value)
+{
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    stream.setVersion(QDataStream::Qt_4_0);
+    stream << value;
+    const QDateTime time = value.userType() == QMetaType::QDateTime ? value.toDateTime() : QDateTime();
+    return bytes + QByteArray::number(time.toMSecsSinceEpoch()) + QByteArray::number(time.offsetFromUtc());
+}
+
+} // namespace
+
+class tst_XmlSettingsFormat : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void writesExactly_data();
+    void writesExactly();
+    void warnsOfBrokenTrees();
+    void saysWhichValueIsNotSaved();
+    void readsWhatIsThere_data();
+    void readsWhatIsThere();
+    void bringsRandomMapsBack();
+    void bringsDeepKeysBack();
+    void survivesTruncation();
+    void survivesRandomDamage();
+    void refusesDepthAndEntities_data();
+    void refusesDepthAndEntities();
+    void readsOneHugeValue();
+    void tellsOfBytesNotTaken();
+};
+
+void tst_XmlSettingsFormat::writesExactly_data()
+{
+    QTest::addColumn<QVariantMap>("map");
+    QTest::addColumn<QByteArray>("lines");
+    QTest::newRow("empty") << Map() << QByteArray();
+    QTest::newRow("value at a group's own key")
+        << Map{{"a", 1}, {"a/b", 2}} << QByteArray(R"(    <group name = "a">
+        <value>1</value>
+        <entry>
+            <name>b</name>
+            <value>2</value>
+        </entry>
+    </group>
+)");
+    QTest::newRow("array with items, ten before two")
+        << Map{{"list/size", 2}, {"list/2/x", "b"}, {"list/10", "c"}, {"list/10/x", "a"}}
+        << QByteArray(R"(    <array name = "list" size = "2">
+        <item index = "10">
+            <value>c</value>
+            <entry>
+                <name>x</name>
+                <value>a</value>
+            </entry>
+        </item>
+        <item index = "2">
+            <entry>
+                <name>x</name>
+                <value>b</value>
+            </entry>
+        </item>
+    </array>
+)");
+    QTest::newRow("size as a text makes no array")
+        << Map{{"list/size", "2"}, {"list/1/x", 1}} << QByteArray(R"(    <group name = "list">
+        <group name = "1">
+            <entry>
+                <name>x</name>
+                <value>1</value>
+            </entry>
+        </group>
+        <entry>
+            <name>size</name>
+            <value>2</value>
+        </entry>
+    </group>
+)");
+    QTest::newRow("size alone makes an array, beside words none")
+        << Map{{"bare/size", -3}, {"words/size", 1}, {"words/x", 2}}
+        << QByteArray(R"(    <array name = "bare" size = "-3">
+    </array>
+    <group name = "words">
+        <entry>
+            <name>size</name>
+            <value>1</value>
+        </entry>
+        <entry>
+            <name>x</name>
+            <value>2</value>
+        </entry>
+    </group>
+)");
+    QTest::newRow("children of arrays that are no items")
+        << Map{{"l/size", 1}, {"l/1", 5}, {"l/07/x", 1}, {"l/3/size", 0}, {"l/n/x", 1}}
+        << QByteArray(R"(    <array name = "l" size = "1">
+        <group name = "07">
+            <entry>
+                <name>x</name>
+                <value>1</value>
+            </entry>
+        </group>
+        <entry>
+            <name>1</name>
+            <value>5</value>
+        </entry>
+        <array name = "3" size = "0">
+        </array>
+        <group name = "n">
+            <entry>
+                <name>x</name>
+                <value>1</value>
+            </entry>
+        </group>
+    </array>
+)");
+    QTest::newRow("escaped names, an empty name, an invalid value")
+        << Map{{"a?\"/b?<", ""}, {"x/", QVariant()}} << QByteArray(R"(    <group name = "a~#x3F;~#x22;">
+        <entry>
+            <name>b?~#x3C;</name>
+            <value></value>
+        </entry>
+    </group>
+    <group name = "x">
+        <entry>
+            <name>unnamed</name>
+        </entry>
+    </group>
+)");
+}
+
+void tst_XmlSettingsFormat::writesExactly()
+{
+    QFETCH(QVariantMap, map);
+    QFETCH(QByteArray, lines);
+    QCOMPARE(written(map), Head + lines + Tail);
+}
+
+void tst_XmlSettingsFormat::warnsOfBrokenTrees()
+{
+    WarningRecorder recorder;
+    XmlSettingsNode root;
+    root.insert("a/b/c", 1);
+    root.insert("a/b", 2); // only maps that are not sorted have it in this order
+    const QByteArray lines = XmlSettingsWriter::document(root); // not classified
+    QCOMPARE(recorder.texts(), QStringList({"Node [a] already contains [b]", "There is still a <Node> Node",
+                                            "There is still a <Node> Node"}));
+    QVERIFY(
+        lines.contains("\n    <node>\n        <name>a</name>\n        <node>\n            <name>b</name>\n"));
+}
+
+void tst_XmlSettingsFormat::saysWhichValueIsNotSaved()
+{
+    WarningRecorder recorder; // and the trace, which is on standard error
+    const QVariant pointer = QVariant::fromValue<QObject *>(this);
+    Map back;
+    QVERIFY(read(written({{"g/a", 1}, {"g/b", pointer}, {"g/c", 3}}), back));
+    QCOMPARE(back, Map({{"g/a", "1"}, {"g/c", "3"}}));
+}
+
+void tst_XmlSettingsFormat::readsWhatIsThere_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    QTest::addColumn<bool>("good");
+    QTest::addColumn<QStringList>("warnings");
+    QTest::addColumn<QVariantMap>("map");
+    const auto good = [](const char *name, const QByteArray &file, const Map &map,
+                         const QStringList &warnings = {}) {
+        QTest::newRow(name) << file << true << warnings << map;
+    };
+    const auto bad = [](const char *name, const QByteArray &file, const QString &warning) {
+        QTest::newRow(name) << file << false << QStringList(warning) << Map();
+    };
+    const QString prefix("PYXXmlSettingsPrivate::readXmlFile: ");
+    const QString noXml = prefix + "error setting content";
+    const QByteArray a1 = entry("a", "1");
+    good("root in any case, no declaration", "<pyxXMLsettings>" + a1 + "</pyxXMLsettings>", {{"a", "1"}});
+    good("byte-order mark and version", Head + a1 + Tail, {{"a", "1"}});
+    good("UTF-16",
+         QByteArray("\xFF\xFE") + QByteArray(reinterpret_cast<const char *>(u"<PYXXmlSettings/>"), 34), {});
+    good("document type without declarations", "<!DOCTYPE PYXXmlSettings>" + xml(a1), {{"a", "1"}});
+    good("tags in any case, comments", xml("<!-- c --><ENTRY><Value>1</Value><?pi?><nAme>a</nAme></ENTRY>"),
+         {{"a", "1"}});
+    good("a later entry replaces an earlier one", xml(a1 + entry("a", "2")), {{"a", "2"}});
+    good("only the first name and the first value",
+         xml("<entry><name>a</name><name>b</name><value>1</value><value>2</value></entry>"), {{"a", "1"}});
+    good("only the first text", xml(entry("a<!-- c -->b", "1<b>2</b>3") + entry("c", "\n <!-- c --> 4")),
+         {{"a", "1"}, {"c", " 4"}});
+    good("CDATA and entities", xml(entry("<![CDATA[a]]>b", "&lt;&#65;&amp;#66;")), {{"a", "<AB"}});
+    good("empty and absent values",
+         xml("<entry><name>a</name><value/></entry><entry><name>b</name></entry>" + entry("c", "@Invalid()")),
+         {{"a", ""}});
+    good("a value and a name of blanks", xml(entry(" ", "  ")), {{" ", "  "}});
+    good("own values, wherever they stand",
+         xml("<group name='g'>" + a1 +
+             "<value>v</value><value>w</value></group><array name='l'><value>x</value></array>"
+             "<array name='m'><item "
+             "index='1'><value>@Invalid()</value><entry><name>y</name><value>z</value></entry></item></"
+             "array>"),
+         {{"g", "v"}, {"g/a", "1"}, {"l", "x"}, {"l/size", 0}, {"m/size", 0}, {"m/1/y", "z"}});
+    good("sizes, names and indices as they stand",
+         xml("<array name='a~#x2F;b' size='x'><item index='0~#49;'>" + a1 + "</item><item>" + a1 +
+             "</item></array>"
+             "<array size='99999999999'/><group Name='n'>" +
+             a1 + "</group>"),
+         {{"a/b/size", 0}, {"a/b/0~#49;/a", "1"}, {"a/b//a", "1"}, {"/size", 0}, {"/a", "1"}});
+    good("misplaced elements",
+         xml("<Item/><value>1</value><x:y/><array name='l'><name/><item><item/></item></array><group "
+             "name='g'><item><entry/></item></group>"),
+         {{"l/size", 0}},
+         {"skipping misplaced element [item]", "skipping misplaced element [value]",
+          "skipping misplaced element [x:y]", "array skipping misplaced element [name]",
+          "item: skipping misplaced element [item]", "group: skipping misplaced element [item]"});
+    bad("entry without a name",
+        xml("<group name='g%1'>" + a1 + "<entry><value>1</value></entry></group><x/>"),
+        "entry @[g%1] node is missing name");
+    bad("entry with an empty name", xml(entry("", "1")), "entry @[] node is missing name");
+    bad("another root", "<settings/>", prefix + "not a PYXXml settings file");
+    bad("version 1.00", "<PYXXmlSettings version='1.00'/>", prefix + "cannot read this version (1.00)");
+    bad("empty version", "<PYXXmlSettings version=''/>", prefix + "cannot read this version ()");
+    bad("no XML", "[General]\na=1\n", noXml);
+    bad("nothing", "", noXml);
+    bad("error behind other faults", xml("<entry/><stray/>") + "<again/>", noXml);
+    bad("no UTF-8", xml(entry("a", "\xFF\xFE")), noXml);
+}
+
+void tst_XmlSettingsFormat::readsWhatIsThere()
+{
+    QFETCH(QByteArray, file);
+    QFETCH(QVariantMap, map);
+    QFETCH(QStringList, warnings);
+    WarningRecorder recorder;
+    Map found;
+    QTEST(read(file, found), "good");
+    QCOMPARE(recorder.texts(), warnings);
+    QCOMPARE(found.keys(), map.keys());
+    for (auto it = map.cbegin(); it != map.cend(); ++it) {
+        QCOMPARE(found.value(it.key()), it.value());
+        QCOMPARE(found.value(it.key()).userType(), it.value().userType());
+    }
+}
+
+void tst_XmlSettingsFormat::bringsRandomMapsBack()
+{
+    const quint32 seed = QRandomGenerator::global()->generate();
+    QRandomGenerator random(seed);
+    for (int round = 0; round < 300; ++round) {
+        const Map map = randomMap(random);
+        const QByteArray file = written(map);
+        Map back;
+        Map general;
+        const QByteArray where = QStringLiteral("seed %1, round %2").arg(seed).arg(round).toLatin1();
+        QVERIFY2(XmlSettingsScanner::read(file, back), where);
+        QVERIFY2(XmlSettingsReader::readAnyXml(file, general), where);
+        for (auto it = map.begin(); it != map.end(); ++it) {
+            // An int named "size" comes back as one where it made an array.
+            const QVariant expected =
+                back.value(it.key()).userType() == QMetaType::Int ? it.value() : asRead(it.value());
+            QVERIFY2(contentOf(back.value(it.key())) == contentOf(expected),
+                     where + qPrintable(' ' + it.key()));
+            QVERIFY2(contentOf(general.value(it.key())) == contentOf(expected),
+                     where + qPrintable(' ' + it.key()));
+        }
+        QVERIFY2(back.size() == map.size() && general.size() == map.size(), where);
+    }
+}
+
+void tst_XmlSettingsFormat::bringsDeepKeysBack()
+{
+    Map map;
+    for (int levels : {508, 509, 510, 511, 2000})
+        map.insert(QString("k/").repeated(levels) + QString::number(levels), QString::number(levels));
+    Map back;
+    QVERIFY(read(written(map), back));
+    QCOMPARE(back, map);
+    QVERIFY(XmlSettingsReader::readAnyXml(written(map), back));
+    QCOMPARE(back, map);
+}
+
+void tst_XmlSettingsFormat::survivesTruncation()
+{
+    WarningRecorder recorder;
+    const QByteArray file =
+        written({{"a/size", 1}, {"a/1/x", QStringList{"y", "z"}}, {"u", QUuid::createUuid()}, {"v", ","}});
+    for (int length = 0; length < file.size(); ++length) {
+        Map map;
+        const bool bOnlyLineEndIsMissing = length == file.size() - 1;
+        QCOMPARE(read(file.left(length), map), bOnlyLineEndIsMissing);
+    }
+}
+
+void tst_XmlSettingsFormat::survivesRandomDamage()
+{
+    WarningRecorder recorder;
+    const quint32 seed = QRandomGenerator::global()->generate();
+    QRandomGenerator random(seed);
+    Map map;
+    for (int round = 0; round < 2000; ++round) {
+        QByteArray file = round % 2 == 0 ? QByteArray(random.bounded(500), ' ')
+                                         : written({{"a/b", QVariantMap{{"c", 1}}}, {"d", QSize(1, 2)}});
+        const int changes = round % 2 == 0 ? file.size() : 3;
+        for (int i = 0; i < changes; ++i)
+            file[random.bounded(file.size())] = char(random.bounded(256));
+        Map scanned;
+        Map general;
+        const bool bGood = XmlSettingsReader::readAnyXml(file, general);
+        const bool bSame =
+            !XmlSettingsScanner::read(file, scanned) || (bGood && written(scanned) == written(general));
+        QVERIFY2(bSame, qPrintable(QString("seed %1, round %2").arg(seed).arg(round)));
+    }
+}
+
+void tst_XmlSettingsFormat::refusesDepthAndEntities_data()
+{
+    QTest::addColumn<QByteArray>("file");
+    const QByteArray open("<group name=\"g\">");
+    const QByteArray writersOpen("<group name = \"g\">\n");
+    QTest::newRow("too deep by one") << xml(open.repeated(512) + QByteArray("</group>").repeated(512));
+    QTest::newRow("100 000 levels") << xml(open.repeated(100'000) + QByteArray("</group>").repeated(100'000));
+    QTest::newRow("100 000 levels as written")
+        << Head + writersOpen.repeated(100'000) + QByteArray("</group>\n").repeated(100'000) + Tail;
+    QTest::newRow("100 000 levels of strangers") << xml(QByteArray("<x>").repeated(100'000));
+    QByteArray bomb("<!DOCTYPE r [<!ENTITY e0 \"0123456789\">");
+    for (int i = 1; i < 30; ++i)
+        bomb +=
+            QString("<!ENTITY e%1 \"%2\">").arg(i).arg(QString("&e%1;").arg(i - 1).repeated(10)).toLatin1();
+    QTest::newRow("entities that multiply") << bomb + "]>" + xml(entry("a", "&e29;"));
+    const QByteArray parameter = "<!DOCTYPE r [<!ENTITY % p \"<!-- " + QByteArray(4000, 'c') + " -->\">";
+    QTest::newRow("parameter entities") << parameter + QByteArray("%p;").repeated(10'000) + "]>" + xml("");
+    QTest::newRow("default attributes")
+        << QByteArray("<!DOCTYPE r [<!ATTLIST x y CDATA '1'>]>") + xml("<x/>");
+}
+
+void tst_XmlSettingsFormat::refusesDepthAndEntities()
+{
+    QFETCH(QByteArray, file);
+    WarningRecorder recorder;
+    Map map;
+    QElapsedTimer timer;
+    timer.start();
+    QVERIFY(!read(file, map));
+    // Some milliseconds; the bound leaves room for sanitizers and busy machines.
+    QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
+    QCOMPARE(recorder.texts(), QStringList("PYXXmlSettingsPrivate::readXmlFile: error setting content"));
+}
+
+void tst_XmlSettingsFormat::readsOneHugeValue()
+{
+    const Map map{{"v", QString(100'000'000, 'x')}};
+    const QByteArray file = written(map);
+    for (const QByteArray &form :
+         {file, QByteArray(file).replace("<entry>", "<ENTRY>").replace("</entry>", "</ENTRY>")}) {
+        Map back;
+        QVERIFY(read(form, back));
+        QVERIFY(back == map);
+    }
+}
+
+void tst_XmlSettingsFormat::tellsOfBytesNotTaken()
+{
+    QByteArray bytes;
+    QBuffer closed(&bytes);
+    WarningRecorder recorder; // Qt says that the device is not open
+    QVERIFY(!XmlSettingsWriter::write(closed, {{"a", 1}}));
+}
+
+QTEST_MAIN(tst_XmlSettingsFormat)
+#include "tst_XmlSettingsFormat.moc"

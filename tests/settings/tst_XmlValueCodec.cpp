@@ -1,0 +1,255 @@
+// SPDX-FileCopyrightText: 2026 The PYXRuntime developers
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "WarningRecorder.h"
+#include "XmlTextCodec.h"
+#include "XmlValueCodec.h"
+
+#include <QtGui/QColor>
+#include <QtGui/QKeySequence>
+#include <QtTest/QtTest>
+
+using namespace PYXRuntime;
+
+class tst_XmlValueCodec : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void escapes();
+    void unescapes_data();
+    void unescapes();
+    void encodesAndDecodes_data();
+    void encodesAndDecodes();
+    void decodesTextsOfOthers_data();
+    void decodesTextsOfOthers();
+    void keepsWhatReadableFormsCannotHold_data();
+    void keepsWhatReadableFormsCannotHold();
+    void keepsTheMomentOfNestedTimes();
+    void refusesValuesWithoutAForm();
+};
+
+void tst_XmlValueCodec::escapes()
+{
+    QString every;
+    for (ushort c = 0; c < 0x102; ++c)
+        every.append(QChar(c));
+    QByteArray value;
+    QByteArray key;
+    XmlTextCodec::appendEscapedValue(value, every);
+    XmlTextCodec::appendEscapedKey(key, every);
+    QVERIFY(value.startsWith("~#x00;~#x01;"));
+    QVERIFY(value.endsWith("~#xFF;~#x0100;~#x0101;"));
+    const auto literals = [&every](void (*append)(QByteArray &, QStringView)) {
+        QByteArray found;
+        for (const QChar c : qAsConst(every)) {
+            QByteArray one;
+            append(one, QString(c));
+            found += one.size() == 1 ? one : QByteArray();
+        }
+        return found;
+    };
+    const QByteArray letters("ABCDEFGHIJKLMNOPQRSTUVWXYZ[]_abcdefghijklmnopqrstuvwxyz{}");
+    QCOMPARE(literals(XmlTextCodec::appendEscapedValue), " !#()*+-./0123456789:;=?@" + letters);
+    QCOMPARE(literals(XmlTextCodec::appendEscapedKey), " #()*+-.0123456789:@" + letters);
+    QCOMPARE(XmlTextCodec::unescaped(QString::fromLatin1(value)), every);
+    QCOMPARE(XmlTextCodec::unescaped(QString::fromLatin1(key)), every);
+}
+
+void tst_XmlValueCodec::unescapes_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("hexadecimal") << "~#x3C;~#XaF;~#x20AC;~#x9;"
+                                 << QString("<") + QChar(0xAF) + QChar(0x20AC) + '\t';
+    QTest::newRow("ampersand") << "&#x41;&#66;"
+                               << "AB";
+    QTest::newRow("decimal up to 65535") << "~#65535;~#0065;" << QString(QChar(0xFFFF)) + 'A';
+    QTest::newRow("decimal above 65535") << "~#65536;~#99999999999999999999;"
+                                         << "~#65536;~#99999999999999999999;";
+    QTest::newRow("five hexadecimal digits") << "~#x00041;"
+                                             << "~#x00041;";
+    QTest::newRow("incomplete") << "~#;~#x;~#x41~#65 ~#xG;~~# &#"
+                                << "~#;~#x;~#x41~#65 ~#xG;~~# &#";
+    QTest::newRow("a reference in a broken one") << "~#x4~#x41;~~#65;"
+                                                 << "~#x4A~A";
+    QTest::newRow("nothing twice") << "~#x7E;#x41;~#x26;#65;"
+                                   << "~#x41;&#65;";
+    QTest::newRow("digits of other scripts")
+        << QString("~#") + QChar(0x0661) + ';' << QString("~#") + QChar(0x0661) + ';';
+}
+
+void tst_XmlValueCodec::unescapes()
+{
+    QFETCH(QString, text);
+    QTEST(XmlTextCodec::unescaped(text), "expected");
+}
+
+void tst_XmlValueCodec::encodesAndDecodes_data()
+{
+    QTest::addColumn<QVariant>("value");
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QVariant>("back");
+    const auto same = [](const char *name, const QVariant &value, const QByteArray &text) {
+        QTest::newRow(name) << value << text << value;
+    };
+    const auto asText = [](const char *name, const QVariant &value, const QByteArray &text) {
+        QTest::newRow(name) << value << text << QVariant(QString::fromLatin1(text));
+    };
+    asText("bool", true, "true");
+    asText("int", -7, "-7");
+    asText("uint", 4000000000U, "4000000000");
+    asText("qlonglong", Q_INT64_C(-9000000000), "-9000000000");
+    asText("qulonglong", Q_UINT64_C(18000000000000000000), "18000000000000000000");
+    asText("double", 0.1, "0.1");
+    QTest::newRow("key sequence") << QVariant(QKeySequence("Ctrl+O")) << QByteArray("Ctrl+O")
+                                  << QVariant("Ctrl+O");
+    same("text", "a<b", "a~#x3C;b");
+    same("empty text", "", "");
+    same("text of blanks", "   ", "   ");
+    same("text with a comma", "a,b", "a~#x2C;b");
+    same("text beginning with @", "@home", "@@home");
+    same("text like a form", "@Point(1 2)", "@@Point(1 2)");
+    same("surrogates, whole and torn", QString::fromUtf8("\xF0\x9F\x98\x80") + QChar(0xD800),
+         "~#xD83D;~#xDE00;~#xD800;");
+    same("bytes", QByteArray("\0)\xFF", 3), "@ByteArray(~#x00;)~#xFF;)");
+    same("date", QDate(2020, 2, 29), "@ISODate(2020-02-29)");
+    same("no date", QDate(), "@ISODate()");
+    same("time", QTime(1, 2, 3, 4), "@Time(01:02:03.004)");
+    same("no time", QTime(), "@Time()");
+    same("local date-time", QDateTime(QDate(2020, 1, 2), QTime(3, 4, 5, 6)),
+         "@ISODateTime(2020-01-02 03:04:05.006 0)");
+    same("UTC", QDateTime(QDate(2020, 1, 2), QTime(3, 4), Qt::UTC),
+         "@ISODateTime(2020-01-02 03:04:00.000 1)");
+    same("no date-time", QDateTime(), "@ISODateTime(  0)");
+    same("date-time with an offset", QDateTime(QDate(2020, 1, 2), QTime(3, 4), Qt::OffsetFromUTC, -3600),
+         "@ISODateTime(2020-01-02 03:04:00.000 2 -3600)");
+    same("date-time in a zone", QDateTime(QDate(2020, 7, 2), QTime(3, 4), QTimeZone("Europe/Berlin")),
+         "@ISODateTime(2020-07-02 03:04:00.000 3 Europe/Berlin)");
+    same("locale", QLocale("de_AT"), "@Locale(de_AT)");
+    same("rectangle", QRect(1, -2, 3, 4), "@Rect(1 -2 3 4)");
+    same("size", QSize(-1, 2), "@Size(-1 2)");
+    same("point", QPoint(1, 2), "@Point(1 2)");
+    same("rectangle of reals", QRectF(0.5, 1, 2, 3),
+         "@RectF(0.5000000000000000 1.0000000000000000 2.0000000000000000 3.0000000000000000)");
+    same("size of reals", QSizeF(0.25, 1e20),
+         "@SizeF(0.2500000000000000 100000000000000000000.0000000000000000)");
+    same("point of reals", QPointF(-0.5, 0), "@PointF(-0.5000000000000000 0.0000000000000000)");
+    same("colour", QColor(1, 2, 3, 4), "@Color(1 2 3 4)");
+    same("texts", QStringList{"a", "b,c", "@d"}, "a , b~#x2C;c , @@d");
+    same("texts with blanks around", QStringList{" a ", "", "  "}, " a  ,  ,   ");
+    same("empty texts", QStringList{"", "", ""}, " ,  , ");
+    QTest::newRow("one text") << QVariant(QStringList{"@a"}) << QByteArray("@@a") << QVariant("@a");
+    same("no texts", QStringList(), "@EmptyStringList()");
+    QTest::newRow("no values") << QVariant(QVariantList()) << QByteArray("@EmptyStringList()")
+                               << QVariant(QStringList());
+    QTest::newRow("plain values") << QVariant(QVariantList{1, "b", 2.5}) << QByteArray("1 , b , 2.5")
+                                  << QVariant(QStringList{"1", "b", "2.5"});
+    same("values", QVariantList{"a", QPoint(1, 2), QVariant()}, "a , @Point(1 2) , @Invalid()");
+}
+
+void tst_XmlValueCodec::encodesAndDecodes()
+{
+    QFETCH(QVariant, value);
+    QFETCH(QByteArray, text);
+    QByteArray encoded;
+    QVERIFY(XmlValueCodec::appendEncoded(encoded, value));
+    QCOMPARE(encoded, text);
+    // Compared with their types: QVariant takes a number and its text for equal.
+    QFETCH(QVariant, back);
+    const QVariant decoded = XmlValueCodec::decoded(QString::fromLatin1(text));
+    QCOMPARE(decoded.userType(), back.userType());
+    QCOMPARE(decoded, back);
+}
+
+void tst_XmlValueCodec::decodesTextsOfOthers_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QVariant>("expected");
+    const auto plain = [](const char *text) {
+        QTest::newRow(text) << QString(text) << QVariant(QString(text));
+    };
+    plain("@Point(1)");
+    plain("@Point(1 2 3)");
+    plain("@Point(1 99999999999)");
+    plain("@Point(a b)");
+    plain("@Point(1 2");
+    plain("@Nothing(1)");
+    plain("@");
+    plain("@)");
+    plain("@Rect(2147483647 0 2 1)");
+    plain("@Color(1 2 3 256)");
+    plain("@ISODate(2021-02-29)");
+    plain("@Time(25:00:00.000)");
+    plain("@ISODateTime(2020-01-02 03:04:05.006 4)");
+    plain("@ISODateTime(2020-01-02 03:04:05.006 2 x)");
+    plain("@ISODateTime(2020-01-02 03:04:05.006 3 Nowhere/Else)");
+    plain("@Locale(no such place)");
+    plain("@Invalid(x)");
+    plain("@EmptyStringList(x)");
+    plain("@Variant()");
+    plain("@Variant(abc)");
+    const auto row = [](const char *text, const QVariant &value) {
+        QTest::newRow(text) << QString(text) << value;
+    };
+    row("a,b", QStringList{"a", "b"});
+    row("a ,b ,  c", QStringList{"a", "b", "c"});
+    row("a,", QStringList{"a", ""});
+    row("\n  a ,\n  b\n", QStringList{"a", "b"});
+    row("1,@Size(1 2)", QVariantList{"1", QSize(1, 2)});
+    row("@Invalid()", QVariant());
+    row("~#64;Point(1 2)", QPoint(1, 2));
+    row("@ISODateTime(2020-01-02 03:04:05.006 2)", QDateTime(QDate(2020, 1, 2), QTime(3, 4, 5, 6)));
+}
+
+void tst_XmlValueCodec::decodesTextsOfOthers()
+{
+    QFETCH(QString, text);
+    QFETCH(QVariant, expected);
+    const QVariant value = XmlValueCodec::decoded(text);
+    QCOMPARE(value.userType(), expected.userType());
+    QCOMPARE(value, expected);
+}
+
+void tst_XmlValueCodec::keepsWhatReadableFormsCannotHold_data()
+{
+    QTest::addColumn<QVariant>("value");
+    QTest::newRow("date after 9999") << QVariant(QDate(12345, 6, 7));
+    QTest::newRow("date before Christ") << QVariant(QDate(-44, 3, 15));
+    QTest::newRow("widest rectangle") << QVariant(QRect(QPoint(INT_MIN, INT_MIN), QPoint(INT_MAX, INT_MAX)));
+    QTest::newRow("no colour") << QVariant(QColor());
+    QTest::newRow("list of one") << QVariant(QVariantList{"a"});
+    QTest::newRow("lists in a list") << QVariant(QVariantList{QStringList{"a", "b"}, QVariantList()});
+}
+
+void tst_XmlValueCodec::keepsWhatReadableFormsCannotHold()
+{
+    QFETCH(QVariant, value);
+    QByteArray text;
+    QVERIFY(XmlValueCodec::appendEncoded(text, value));
+    QVERIFY(text.contains("@Variant("));
+    QCOMPARE(XmlValueCodec::decoded(QString::fromLatin1(text)), value);
+}
+
+void tst_XmlValueCodec::keepsTheMomentOfNestedTimes()
+{
+    const QDateTime time(QDate(2020, 7, 2), QTime(3, 4), QTimeZone("Europe/Berlin"));
+    QByteArray text;
+    QVERIFY(XmlValueCodec::appendEncoded(text, QVariantMap{{"k", QVariantList{time}}}));
+    const QVariant back =
+        XmlValueCodec::decoded(QString::fromLatin1(text)).toMap().value("k").toList().value(0);
+    QCOMPARE(back.toDateTime(), time);
+}
+
+void tst_XmlValueCodec::refusesValuesWithoutAForm()
+{
+    const QVariant pointer = QVariant::fromValue<QObject *>(this);
+    WarningRecorder recorder; // Qt says that it cannot stream it
+    QByteArray text("before");
+    for (const QVariant &value :
+         {pointer, QVariant(QVariantList{1, pointer}), QVariant(QVariantMap{{"k", pointer}})}) {
+        QVERIFY(!XmlValueCodec::appendEncoded(text, value));
+        QCOMPARE(text, QByteArray("before"));
+    }
+}
+
+QTEST_GUILESS_MAIN(tst_XmlValueCodec)
+#include "tst_XmlValueCodec.moc"
