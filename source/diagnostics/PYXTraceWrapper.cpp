@@ -98,7 +98,7 @@ void writeDebugOut(const struLevel &level, const char *kind, const QString &text
                            QLatin1String(") : ") % QLatin1String(kind) % QLatin1String(level.tag) %
                            QLatin1String(" : ") % text;
     if (s_bUsePrintf.load(std::memory_order_relaxed))
-        Platform::writeStandardOutputLine(printfLine(Platform::consoleBytes(output)));
+        Platform::writeStandardOutputLine(printfLine(output.toUtf8()));
     else
         pyx_message_output(output);
     if (bColored)

@@ -45,10 +45,18 @@ int takeNumber(const QByteArray &format, int &at)
     return number;
 }
 
+/** The index behind the argument number of "%2$d", or @p at where there is none. */
+int skipArgumentNumber(const QByteArray &format, int at)
+{
+    int end = at;
+    const bool bNumber = !takeAnyOf("0123456789", format, end).isEmpty();
+    return bNumber && end < format.size() && format.at(end) == '$' ? end + 1 : at;
+}
+
 struConversion takeConversion(const QByteArray &format, int percentSign)
 {
     struConversion conversion;
-    int at = percentSign + 1;
+    int at = skipArgumentNumber(format, percentSign + 1);
     for (const char flag : takeAnyOf("-+ #0'", format, at)) {
         if (!conversion.flags.contains(flag) && flag != '\'')
             conversion.flags += flag;
@@ -58,7 +66,8 @@ struConversion takeConversion(const QByteArray &format, int percentSign)
         ++at;
         conversion.precision = takeNumber(format, at);
     }
-    takeAnyOf("hlLqjztI", format, at);
+    if (!takeAnyOf("hlLqjztI", format, at).isEmpty() && format.at(at - 1) == 'I')
+        takeAnyOf("3624", format, at); // I32 and I64 of Windows
     if (at < format.size())
         conversion.letter = format.at(at++);
     conversion.end = at;

@@ -31,9 +31,6 @@ void writeStandardErrorLine(const QString &text);
 /** Writes the bytes and a newline to standard output. */
 void writeStandardOutputLine(const QByteArray &bytes);
 
-/** The bytes that a console of this system shows as the text. */
-QByteArray consoleBytes(const QString &text);
-
 /**
  * Colours what is written to the console from now on; white goes back to the normal colour.
  * Silently does nothing where there is no console.

@@ -75,18 +75,13 @@ void writeDebuggerLine(const QString &text)
 
 void writeStandardErrorLine(const QString &text)
 {
-    writeLine(stderr, consoleBytes(text));
+    writeLine(stderr, text.toUtf8());
     std::fflush(stderr);
 }
 
 void writeStandardOutputLine(const QByteArray &bytes)
 {
     writeLine(stdout, bytes);
-}
-
-QByteArray consoleBytes(const QString &text)
-{
-    return text.toUtf8();
 }
 
 void setConsoleColour(eConsoleColour colour)

@@ -43,7 +43,7 @@ void writeDebuggerLine(const QString &text)
 
 void writeStandardErrorLine(const QString &text)
 {
-    writeLine(stderr, consoleBytes(text));
+    writeLine(stderr, text.toLocal8Bit());
     std::fflush(stderr);
 }
 

@@ -26,6 +26,8 @@ void tst_PrintfLine::consumesConversions_data()
     row("signs", "[%+d]", "[+0]");
     row("precision", "[%.3d %.*d]", "[000 ]");
     row("star width takes zero", "[%*d]", "[0]");
+    row("argument numbers", "[%2$d %1$-3d|]", "[0 0  |]");
+    row("sizes of Windows", "[%I64d %I32u]", "[0 0]");
     row("floats", "[%f %.2f %g %e]", "[0.000000 0.00 0 0.000000e+00]");
     row("texts", "[%s %8s %ls %S]", QByteArray("[") + " " + QByteArray(8, ' ') + "  ]");
     row("character is a NUL", "[%c]", QByteArray("[\0]", 3));
