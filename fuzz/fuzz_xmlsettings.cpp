@@ -56,7 +56,7 @@ QStringList writtenKeys(const Map &map)
 extern "C" int LLVMFuzzerInitialize(int *argc, char ***argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_HASH_SEED", "0"); // the same order of hashes in every run
+    qputenv("QT_HASH_SEED", "0");                     // the same order of hashes in every run
     static QGuiApplication application(*argc, *argv); // values may hold pixmaps
     qInstallMessageHandler(ignoreMessage);
     return 0;
