@@ -97,8 +97,8 @@ bool isDifferent(int typeId, QDataStream::Version version)
 {
     if (isBetweenBasicVersions(version))
         return isGuiType(typeId);
-    constexpr int Types[] = {QMetaType::QDate, QMetaType::QDateTime, QMetaType::QFont, QMetaType::QPalette,
-                             QMetaType::QPen};
+    constexpr int Types[] = {QMetaType::UnknownType, QMetaType::QDate,    QMetaType::QDateTime,
+                             QMetaType::QFont,       QMetaType::QPalette, QMetaType::QPen};
     return version >= QDataStream::Qt_5_0 &&
            std::find(std::begin(Types), std::end(Types), typeId) != std::end(Types);
 }
@@ -108,6 +108,8 @@ bool walk(StreamCursor &cursor, int typeId, QDataStream::Version version)
     if (isBetweenBasicVersions(version))
         return cursor.fail();
     switch (typeId) {
+    case QMetaType::UnknownType: // no longer followed by a text
+        return !cursor.failed();
     case QMetaType::QDate:
         return cursor.skip(DateSize);
     case QMetaType::QDateTime:
