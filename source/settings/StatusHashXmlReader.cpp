@@ -5,7 +5,6 @@
 #include "GeometryXml.h"
 #include "PYXStatusHash.h"
 #include "SerializationHelpers.h"
-#include "StatusHashXmlForms.h"
 #include "VariantStreamChecker.h"
 #include "XmlElementCursor.h"
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
+#include "StatusHashXmlForms.h"
+
 #include <QtCore/QDataStream>
 #include <QtCore/QString>
 #include <QtCore/QVariant>
@@ -15,7 +17,7 @@ class XmlElementCursor;
 class StatusHashXmlReader final
 {
 public:
-    static constexpr QLatin1String RootTag = QLatin1String("StatusHash");
+    static constexpr QLatin1String RootTag = StatusHashXmlForms::StatusHash;
     /** Deepest nesting of hashes, the outermost one counted. */
     static constexpr int MaximumLevels = 99;
 
