@@ -4,6 +4,7 @@
 
 #include "EmbeddedFonts.h"
 #include "PYXRuntimeCenter.h"
+#include "PYXStatusHash.h"
 #include "PYXTraceWrapper.h"
 #include "PYXXmlSettings.h"
 
@@ -73,6 +74,7 @@ bool initialize_PYXRuntime(ePYXInitializeFlags flags)
                                       TraceFile, __LINE__);
     reportMissingApplicationName();
     QSettings::setDefaultFormat(PYXXmlSettings::format());
+    PYXStatusHash::registerMetaType();
     if (!flags.testFlag(ekInitialize_NoFonts))
         setUpFonts(flags);
     s_initializationFlags = flags;
