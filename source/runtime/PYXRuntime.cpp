@@ -4,6 +4,7 @@
 
 #include "EmbeddedFonts.h"
 #include "PYXRuntimeCenter.h"
+#include "PYXThisRunOnlySettings.h"
 #include "PYXTraceWrapper.h"
 #include "PYXXmlSettings.h"
 
@@ -73,6 +74,7 @@ bool initialize_PYXRuntime(ePYXInitializeFlags flags)
                                       TraceFile, __LINE__);
     reportMissingApplicationName();
     QSettings::setDefaultFormat(PYXXmlSettings::format());
+    PYXThisRunOnlySettings::makeSureInitialized();
     if (!flags.testFlag(ekInitialize_NoFonts))
         setUpFonts(flags);
     s_initializationFlags = flags;
@@ -92,6 +94,7 @@ void uninitialize_PYXRuntime()
     PYXTraceWrapper::staticTraceDebug(
         QStringLiteral("uninitialize_PYXRuntime: last reference gone => cleaning up"), TraceFile, __LINE__);
     tearDownFonts();
+    PYXThisRunOnlySettings::destroyInstance();
     if (QSettings::defaultFormat() == PYXXmlSettings::format())
         QSettings::setDefaultFormat(QSettings::NativeFormat);
 }
