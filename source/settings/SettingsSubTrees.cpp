@@ -22,11 +22,6 @@ const QLatin1String SharedPathsChanged("%1 shared paths entries changed");
     return true;
 }();
 
-QString normalised(const QString &group)
-{
-    return group.endsWith(QLatin1Char('/')) || group.endsWith(QLatin1Char('\\')) ? group.chopped(1) : group;
-}
-
 QString below(const QString &group, const QString &name)
 {
     return group + QLatin1Char('/') + name;
@@ -65,6 +60,11 @@ void moveFileDialogs(const QString &key, const QString &directory)
 }
 
 } // namespace
+
+QString normalised(const QString &group)
+{
+    return group.endsWith(QLatin1Char('/')) || group.endsWith(QLatin1Char('\\')) ? group.chopped(1) : group;
+}
 
 void removeSubTree(PYXSettings &settings, const QString &group)
 {

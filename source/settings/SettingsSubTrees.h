@@ -12,6 +12,9 @@ class PYXSettings;
 /** What PYXSettings does with whole groups. */
 namespace SettingsSubTrees {
 
+/** The name of a group without one "/" or "\\" at its end. */
+QString normalised(const QString &group);
+
 void removeSubTree(PYXSettings &settings, const QString &group);
 void clone(PYXSettings &settings, const QString &source, const QString &target);
 QStringList diff(PYXSettings &settings, const QString &current, const QString &clone);
