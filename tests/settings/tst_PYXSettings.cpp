@@ -276,7 +276,7 @@ void tst_PYXSettings::valuesComeBackFromTheFile()
         QVERIFY(QFile::copy(settings.fileName(), kept));
     }
     PYXSettings settings(kept);
-    QVERIFY2(isRead(settings), qPrintable(QDebug::toString(settings.value("Group/Key"))));
+    QVERIFY2(isRead(settings), qPrintable(settings.stringValue("Group/Key")));
 }
 
 void tst_PYXSettings::whatIsMissingIsEmpty()
