@@ -32,14 +32,15 @@ bool writeMany(PYXSettings &settings, const QString &prefix, int count)
     return true;
 }
 
-/** All keys of a file have the same value, if it is whole. */
+/** All keys of a file have the same value, if it is whole. Says so whenever it has saved. */
 void writeForever(PYXSettings &settings)
 {
-    for (int generation = settings.intValue("Key0"); isSaved(settings); ++generation) {
+    for (int generation = settings.intValue("Key0") + 1;; ++generation) {
         for (int i = 0; i < KeysOfGeneration; ++i)
             settings.setValue(QString("Key%1").arg(i), generation);
-        if (generation % 2 == 0)
-            settings.setValue("Padding", QString(generation % 10'000, 'x'));
+        settings.setValue("Padding", QString(generation % 100 * 100, 'x'));
+        if (!isSaved(settings))
+            return;
         std::fputs(".", stdout);
         std::fflush(stdout);
     }

@@ -68,6 +68,8 @@ void tst_StoreDurability::fourProcessesKeepAllKeys()
 
 void tst_StoreDurability::aKilledWriterLeavesAWholeFile()
 {
+    if (QSysInfo::kernelType() == "winnt")
+        QSKIP("It takes minutes to start so many processes there");
     constexpr int Kills = 200;
     constexpr int LatestMs = 20;
     const QString file = m_home.path("torn.PYXXml");
@@ -76,25 +78,21 @@ void tst_StoreDurability::aKilledWriterLeavesAWholeFile()
     for (int i = 0; i < Kills; ++i) {
         QProcess process;
         process.start(writer(), {file, "forever"});
-        QVERIFY(process.waitForReadyRead(60'000)); // it has begun to write
+        QVERIFY(process.waitForReadyRead(60'000)); // it has saved once
         QVERIFY(!process.waitForFinished(random->bounded(LatestMs)));
         process.kill();
         QVERIFY(process.waitForFinished(60'000));
         // Under another name: this process would take what it remembers for a file of the same size and time.
         const QString copy = m_home.path(QString("copy%1").arg(i));
-        if (!QFile::copy(file, copy)) {
-            QVERIFY2(i == 0 || last == 0, "the file has gone");
-            continue;
-        }
+        QVERIFY(QFile::copy(file, copy));
         const PYXSettings settings(copy);
         QCOMPARE(settings.status(), QSettings::NoError);
         const int generation = settings.intValue("Key0");
         for (int key = 0; key < 100; ++key)
             QCOMPARE(settings.value(QString("Key%1").arg(key)), QVariant(QString::number(generation)));
-        QVERIFY2(generation >= last, "an older file has come back");
+        QVERIFY2(generation > last, "what was saved has gone");
         last = generation;
     }
-    QVERIFY2(last > 0, "nothing was ever written");
 }
 
 void tst_StoreDurability::aVanishedDirectoryIsMadeAgain()
