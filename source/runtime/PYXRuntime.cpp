@@ -4,6 +4,7 @@
 
 #include "EmbeddedFonts.h"
 #include "PYXRuntimeCenter.h"
+#include "PYXStatusHash.h"
 #include "PYXThisRunOnlySettings.h"
 #include "PYXTraceWrapper.h"
 #include "PYXXmlSettings.h"
@@ -75,6 +76,7 @@ bool initialize_PYXRuntime(ePYXInitializeFlags flags)
     reportMissingApplicationName();
     QSettings::setDefaultFormat(PYXXmlSettings::format());
     PYXThisRunOnlySettings::makeSureInitialized();
+    PYXStatusHash::registerMetaType();
     if (!flags.testFlag(ekInitialize_NoFonts))
         setUpFonts(flags);
     s_initializationFlags = flags;

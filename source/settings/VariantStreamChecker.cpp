@@ -3,6 +3,9 @@
 #include "VariantStreamChecker.h"
 
 #include "GuiStreamTypes.h"
+#include "LaterStreamTypes.h"
+#include "PYXStatusHash.h"
+#include "StatusHashStream.h"
 #include "StreamCursor.h"
 
 #include <QtCore/QMetaType>
@@ -46,7 +49,7 @@ struct struFixedSize
     int size;
 };
 
-/** Types that take the same number of bytes in both stream versions. */
+/** Types that take the same number of bytes in the stream versions of Qt 4.0 and 4.6. */
 constexpr struFixedSize FixedSizes[] = {
     {QMetaType::Bool, 1},      {QMetaType::Int, 4},
     {QMetaType::UInt, 4},      {QMetaType::LongLong, 8},
@@ -137,10 +140,20 @@ bool VariantStreamChecker::accepts(const QByteArray &bytes) const
 
 int VariantStreamChecker::variantLength(const QByteArray &bytes, int offset) const
 {
-    if (m_version != QDataStream::Qt_4_0 && m_version != QDataStream::Qt_4_6)
-        return -1;
     StreamCursor cursor(bytes, offset);
-    return _walkVariant(cursor, 0) ? cursor.position() - offset : -1;
+    return _isKnownVersion() && _walkVariant(cursor, 0) ? cursor.position() - offset : -1;
+}
+
+int VariantStreamChecker::hashLength(const QByteArray &bytes, int offset) const
+{
+    StreamCursor cursor(bytes, offset);
+    return _isKnownVersion() && _walkType(cursor, QMetaType::QVariantHash, 0) ? cursor.position() - offset
+                                                                              : -1;
+}
+
+bool VariantStreamChecker::_isKnownVersion() const
+{
+    return m_version >= QDataStream::Qt_4_0 && m_version <= QDataStream::Qt_5_15;
 }
 
 bool VariantStreamChecker::_walkVariant(StreamCursor &cursor, int level) const
@@ -152,7 +165,7 @@ bool VariantStreamChecker::_walkVariant(StreamCursor &cursor, int level) const
         cursor.skip(1);
     if (cursor.failed() || streamed > quint32(QMetaType::User))
         return cursor.fail();
-    const int typeId = currentTypeId(streamed);
+    const int typeId = m_version < QDataStream::Qt_5_0 ? currentTypeId(streamed) : int(streamed);
     return typeId == QMetaType::User ? _walkNamedType(cursor, level) : _walkType(cursor, typeId, level);
 }
 
@@ -162,7 +175,16 @@ bool VariantStreamChecker::_walkNamedType(StreamCursor &cursor, int level) const
     const int typeId = cursor.failed() ? int(QMetaType::UnknownType) : QMetaType::type(name.constData());
     if (typeId == QMetaType::UnknownType)
         return cursor.fail();
+    if (typeId == qMetaTypeId<PYXStatusHash>())
+        return _walkStatusHash(cursor, level);
     return typeId >= QMetaType::User ? _walkUserType(cursor, typeId) : _walkType(cursor, typeId, level);
+}
+
+bool VariantStreamChecker::_walkStatusHash(StreamCursor &cursor, int level) const
+{
+    cursor.skip(4); // the magic number
+    const bool bKnown = cursor.number<quint32>() == StatusHashStream::FormatVersion;
+    return bKnown ? _walkType(cursor, QMetaType::QVariantHash, level) : cursor.fail();
 }
 
 bool VariantStreamChecker::_walkUserType(StreamCursor &cursor, int typeId) const
@@ -183,6 +205,8 @@ bool VariantStreamChecker::_walkUserType(StreamCursor &cursor, int typeId) const
 
 bool VariantStreamChecker::_walkType(StreamCursor &cursor, int typeId, int level) const
 {
+    if (LaterStreamTypes::isDifferent(typeId, m_version))
+        return LaterStreamTypes::walk(cursor, typeId, m_version);
     const auto *const fixed = std::find_if(std::begin(FixedSizes), std::end(FixedSizes),
                                            [typeId](const auto &entry) { return entry.typeId == typeId; });
     if (fixed != std::end(FixedSizes))

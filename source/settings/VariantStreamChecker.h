@@ -21,7 +21,10 @@ class StreamCursor;
 class VariantStreamChecker final
 {
 public:
-    /** @p streamVersion QDataStream::Qt_4_0 or Qt_4_6; with any other nothing passes. */
+    /**
+     * @p streamVersion from QDataStream::Qt_4_0 to Qt_5_15; with any other nothing passes, and with those of
+     * Qt 4.2 to 4.5 no type of QtGui.
+     */
     explicit VariantStreamChecker(QDataStream::Version streamVersion);
 
     /** Whether @p bytes are one well-formed QVariant and nothing more. */
@@ -30,11 +33,17 @@ public:
     /** Length of the QVariant that starts at @p offset; -1 where there is no well-formed one. */
     int variantLength(const QByteArray &bytes, int offset) const;
 
+    /** Length of the QHash<QString, QVariant> that starts at @p offset; -1 where there is no well-formed one.
+     */
+    int hashLength(const QByteArray &bytes, int offset) const;
+
 private:
+    bool _isKnownVersion() const;
     bool _walkVariant(StreamCursor &cursor, int level) const;
     bool _walkType(StreamCursor &cursor, int typeId, int level) const;
     bool _walkContainer(StreamCursor &cursor, int typeId, int level) const;
     bool _walkNamedType(StreamCursor &cursor, int level) const;
+    bool _walkStatusHash(StreamCursor &cursor, int level) const;
     bool _walkUserType(StreamCursor &cursor, int typeId) const;
 
     const QDataStream::Version m_version;
