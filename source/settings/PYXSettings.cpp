@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "PYXSettings.h"
 
+#include "PYXStatusHash.h"
 #include "PYXThisRunOnlySettings.h"
 #include "SettingsSubTrees.h"
 #include "StoreFailures.h"
@@ -362,6 +363,11 @@ Qt::CheckState PYXSettings::checkStateValue(const QString &key, bool noFallbacks
     return bKnown ? Qt::CheckState(state) : Qt::Unchecked;
 }
 
+PYXStatusHash PYXSettings::statusHashValue(const QString &key, bool noFallbacks) const
+{
+    return qvariant_cast<PYXStatusHash>(value(key, noFallbacks));
+}
+
 void PYXSettings::setValue(const QString &key, const QVariant &value)
 {
     QSettings::setValue(key, value);
@@ -436,6 +442,11 @@ void PYXSettings::setValue(const QString &key, Qt::CheckState value)
 {
     const char *const name = QMetaEnum::fromType<Qt::CheckState>().valueToKey(value);
     QSettings::setValue(key, QString::fromLatin1(name));
+}
+
+void PYXSettings::setValue(const QString &key, const PYXStatusHash &value)
+{
+    QSettings::setValue(key, QVariant::fromValue(value));
 }
 
 void PYXSettings::removeSubTree(const QString &group)

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "SecretFinder.h"
 
+#include "PYXStatusHash.h"
+
 #include <QtCore/QRegularExpression>
 #include <QtCore/QUrl>
 
@@ -59,6 +61,14 @@ bool mapHoldsSecret(const Map &map)
     return false;
 }
 
+bool hashHoldsSecret(const PYXStatusHash &hash)
+{
+    const QStringList keys = hash.keys();
+    return std::any_of(keys.cbegin(), keys.cend(), [&hash](const QString &key) {
+        return isSecretName(key) || holdsSecret(hash.value(key));
+    });
+}
+
 } // namespace
 
 bool isSecretName(const QString &key)
@@ -69,6 +79,8 @@ bool isSecretName(const QString &key)
 
 bool holdsSecret(const QVariant &value)
 {
+    if (value.userType() == qMetaTypeId<PYXStatusHash>())
+        return hashHoldsSecret(value.value<PYXStatusHash>());
     switch (value.userType()) {
     case QMetaType::QString:
         return textHoldsSecret(value.toString());

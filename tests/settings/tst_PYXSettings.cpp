@@ -4,6 +4,7 @@
 
 #include "PYXBrokerRegistration.h"
 #include "PYXIFileDialogPlaces.h"
+#include "PYXStatusHash.h"
 #include "PYXTraceWrapper.h"
 #include "RecordingTracer.h"
 #include "SettingsHome.h"
@@ -260,6 +261,14 @@ void tst_PYXSettings::valuesComeBackFromTheFile_data()
     ROW("text of a check state", Qt::PartiallyChecked, stringValue, QString("PartiallyChecked"));
     ROW("check state by name", "Checked", checkStateValue, Qt::Checked);
     ROW("no check state", "checked", checkStateValue, Qt::Unchecked);
+    PYXRuntime::PYXStatusHash inner(0x12);
+    inner.insert("Threshold", 0.5);
+    PYXRuntime::PYXStatusHash hash;
+    hash.insert("Inner", inner);
+    row(
+        "status hash", [hash](PYXSettings &s) { return s.setValue("Group/Key", hash), true; },
+        [hash](PYXSettings &s) { return s.statusHashValue("Group/Key") == hash; });
+    ROW("no status hash", 1, statusHashValue, PYXRuntime::PYXStatusHash());
 #undef ROW
 }
 

@@ -3,6 +3,7 @@
 #include "PYXSettingsTransfer.h"
 
 #include "PYXSettings.h"
+#include "PYXStatusHash.h"
 #include "SettingsHome.h"
 
 #include <QtCore/QDataStream>
@@ -94,6 +95,9 @@ void tst_PYXSettingsTransfer::secretsStayBehind_data()
     QTest::newRow("bytes") << "Geometry" << QVariant(QByteArray(64, '\1')) << false;
     QTest::newRow("map in a list") << "State" << QVariant(QVariantList{1, QVariantMap{{"Secret", 1}}})
                                    << true;
+    PYXRuntime::PYXStatusHash hash;
+    hash.insert("Inner", QVariantHash{{"Passphrase", 1}});
+    QTest::newRow("status hash") << "State" << QVariant::fromValue(hash) << true;
     QTest::newRow("map") << "State" << QVariant(QVariantMap{{"Name", 1}}) << false;
 }
 
