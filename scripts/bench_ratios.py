@@ -18,6 +18,7 @@ GOALS = {
     ("diagnostics/disabled message", "qCDebug"): 1.5,
     ("diagnostics/trace line to a file", "spdlog"): 1.0,
     ("broker/topObject", "by hand"): 1.3,
+    ("store/open, read one key", "QSettings"): 1.1,
     ("settings/read", "Ini"): 0.8,
     ("settings/sync", "Ini"): 1.0,
     ("settings/sync", "KConfig"): 1.0,

@@ -5,6 +5,7 @@
 #include "EmbeddedFonts.h"
 #include "PYXRuntimeCenter.h"
 #include "PYXStatusHash.h"
+#include "PYXThisRunOnlySettings.h"
 #include "PYXTraceWrapper.h"
 #include "PYXXmlSettings.h"
 
@@ -74,6 +75,7 @@ bool initialize_PYXRuntime(ePYXInitializeFlags flags)
                                       TraceFile, __LINE__);
     reportMissingApplicationName();
     QSettings::setDefaultFormat(PYXXmlSettings::format());
+    PYXThisRunOnlySettings::makeSureInitialized();
     PYXStatusHash::registerMetaType();
     if (!flags.testFlag(ekInitialize_NoFonts))
         setUpFonts(flags);
@@ -94,6 +96,7 @@ void uninitialize_PYXRuntime()
     PYXTraceWrapper::staticTraceDebug(
         QStringLiteral("uninitialize_PYXRuntime: last reference gone => cleaning up"), TraceFile, __LINE__);
     tearDownFonts();
+    PYXThisRunOnlySettings::destroyInstance();
     if (QSettings::defaultFormat() == PYXXmlSettings::format())
         QSettings::setDefaultFormat(QSettings::NativeFormat);
 }

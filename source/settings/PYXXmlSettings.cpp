@@ -4,6 +4,7 @@
 
 #include "DamagedFileKeeper.h"
 #include "Platform.h"
+#include "WatchedStores.h"
 #include "XmlSettingsReader.h"
 #include "XmlSettingsWriter.h"
 
@@ -19,11 +20,21 @@ const QLatin1String FileSuffix("PYXXml");
 
 bool readOrKeep(QIODevice &device, QSettings::SettingsMap &map)
 {
-    if (XmlSettingsReader::read(device, map))
+    if (XmlSettingsReader::read(device, map)) {
+        WatchedStores::noteRead(device, map);
         return true;
+    }
     if (auto *const file = qobject_cast<QFileDevice *>(&device))
         DamagedFileKeeper::keep(*file);
     return false;
+}
+
+bool write(QIODevice &device, const QSettings::SettingsMap &map)
+{
+    if (!XmlSettingsWriter::write(device, map))
+        return false;
+    WatchedStores::noteWritten(device, map);
+    return true;
 }
 
 } // namespace
@@ -34,8 +45,7 @@ QSettings::Format PYXXmlSettings::format()
     static QSettings::Format registered = QSettings::InvalidFormat;
     const std::lock_guard<std::mutex> locker(mutex);
     if (registered == QSettings::InvalidFormat) {
-        registered =
-            QSettings::registerFormat(FileSuffix, readOrKeep, XmlSettingsWriter::write, Qt::CaseSensitive);
+        registered = QSettings::registerFormat(FileSuffix, readOrKeep, write, Qt::CaseSensitive);
         Platform::registerXmlFileType(FileSuffix);
     }
     return registered;

@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The PYXRuntime developers
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "ChildProcess.h"
+#include "PYXExternalConfig.h"
+
+#include <QtTest/QtTest>
+
+#include <thread>
+
+using PYXRuntime::PYXExternalConfig;
+
+namespace {
+constexpr char ChildVariable[] = "PYX_TEST_CHILD";
+const QString wrongThread = "PYXRuntime::PYXExternalConfig::destroyInstance: MUST be called in the same "
+                            "thread that called the first getInstance";
+} // namespace
+
+class tst_PYXExternalConfig : public QObject
+{
+    Q_OBJECT
+private slots:
+    void cleanup() { PYXExternalConfig::destroyInstance(); }
+    void keepsValuesUntilItIsDestroyed();
+    void whoHearsOfItsEndMayAskForIt();
+    void destroyingElsewhereWorksWithAMessage();
+};
+
+void tst_PYXExternalConfig::keepsValuesUntilItIsDestroyed()
+{
+    QCOMPARE(PYXExternalConfig::hasInstance(), nullptr);
+    PYXExternalConfig *const config = PYXExternalConfig::getInstance();
+    QCOMPARE(PYXExternalConfig::hasInstance(), config);
+    QCOMPARE(PYXExternalConfig::getInstance(), config);
+    QCOMPARE(config->value("Antenna", 7).toInt(), 7);
+    config->setValue("Antenna", 1);
+    config->setValue("Antenna", 2);
+    config->setValue("Site", QVariant());
+    QCOMPARE(config->value("Antenna", 7).toInt(), 2);
+    QVERIFY(config->contains("Site") && !config->value("Site", 7).isValid());
+    QStringList keys = config->allKeys();
+    keys.sort();
+    QCOMPARE(keys, QStringList({"Antenna", "Site"}));
+    config->remove("Site");
+    QVERIFY(!config->contains("Site"));
+    config->clear();
+    QCOMPARE(config->allKeys(), QStringList());
+    config->setValue("Antenna", 1);
+    PYXExternalConfig::destroyInstance();
+    QCOMPARE(PYXExternalConfig::hasInstance(), nullptr);
+    QVERIFY(!PYXExternalConfig::getInstance()->contains("Antenna"));
+}
+
+void tst_PYXExternalConfig::whoHearsOfItsEndMayAskForIt()
+{
+    PYXExternalConfig *answer = PYXExternalConfig::getInstance();
+    connect(answer, &QObject::destroyed, this, [&answer] { answer = PYXExternalConfig::hasInstance(); });
+    PYXExternalConfig::destroyInstance();
+    QCOMPARE(answer, nullptr);
+}
+
+void tst_PYXExternalConfig::destroyingElsewhereWorksWithAMessage()
+{
+    if (qEnvironmentVariableIsSet(ChildVariable)) {
+        std::thread([] { PYXExternalConfig::getInstance(); }).join();
+        PYXExternalConfig::destroyInstance();
+        QCOMPARE(PYXExternalConfig::hasInstance(), nullptr);
+        return;
+    }
+    qputenv(ChildVariable, "1");
+    const ChildResult child =
+        runChild(QCoreApplication::applicationFilePath(), {"destroyingElsewhereWorksWithAMessage"});
+    qunsetenv(ChildVariable);
+    QVERIFY(child.bFinished);
+    QCOMPARE(child.exitCode, 0);
+    QCOMPARE(child.errors.count(wrongThread), 1);
+}
+
+QTEST_GUILESS_MAIN(tst_PYXExternalConfig)
+#include "tst_PYXExternalConfig.moc"

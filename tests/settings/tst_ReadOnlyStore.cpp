@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: 2026 The PYXRuntime developers
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "PYXSettings.h"
+#include "PYXTraceWrapper.h"
+#include "RecordingTracer.h"
+#include "SettingsHome.h"
+
+#include <QtTest/QtTest>
+
+#include <sys/fsuid.h>
+#include <unistd.h>
+
+using PYXRuntime::PYXSettings;
+using PYXRuntime::PYXTraceWrapper;
+
+namespace {
+
+/** Permissions do not bind root: while this lives, files are seen as somebody else would see them. */
+class CommonUser
+{
+public:
+    CommonUser() { setfsuid(Nobody); }
+    ~CommonUser() { setfsuid(geteuid()); }
+    Q_DISABLE_COPY(CommonUser)
+
+private:
+    static constexpr uid_t Nobody = 65534;
+};
+
+constexpr auto EverybodyReads = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadOther |
+                                QFile::ExeOther | QFile::ReadGroup | QFile::ExeGroup;
+constexpr auto NobodyWrites = QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther |
+                              QFile::ReadGroup | QFile::ExeGroup;
+
+} // namespace
+
+/** A store in a directory that only lets read, as an application without rights meets it. */
+class tst_ReadOnlyStore : public QObject
+{
+    Q_OBJECT
+private slots:
+    void statusAndTraceTellAndTheOldFileStays_data();
+    void statusAndTraceTellAndTheOldFileStays();
+};
+
+void tst_ReadOnlyStore::statusAndTraceTellAndTheOldFileStays_data()
+{
+    QTest::addColumn<bool>("fileExists");
+    QTest::newRow("new store") << false;
+    QTest::newRow("old store") << true;
+}
+
+void tst_ReadOnlyStore::statusAndTraceTellAndTheOldFileStays()
+{
+    QFETCH(bool, fileExists);
+    const SettingsHome home;
+    const QString directory = home.path("readonly");
+    const QString file = directory + "/store.PYXXml";
+    QVERIFY(QDir().mkpath(directory));
+    if (fileExists)
+        PYXSettings(file).setValue("Key", 1);
+    QVERIFY(QFile::setPermissions(home.path("."), EverybodyReads));
+    QVERIFY(QFile::setPermissions(directory, NobodyWrites));
+    RecordingTracer tracer;
+    PYXTraceWrapper::addTracer(&tracer);
+    QSettings::Status status = QSettings::NoError;
+    int read = 0;
+    {
+        const CommonUser user;
+        PYXSettings settings(file);
+        read = settings.intValue("Key");
+        settings.setValue("Key", 2);
+        QCoreApplication::sendPostedEvents(&settings);
+        status = settings.status();
+        PYXSettings(file).setValue("Other", 3);
+    }
+    PYXTraceWrapper::removeTracer(&tracer);
+    QVERIFY(QFile::setPermissions(directory, EverybodyReads));
+    QCOMPARE(status, QSettings::AccessError);
+    QCOMPARE(read, fileExists ? 1 : 0);
+    QCOMPARE(tracer.calls.filter("cannot be written").size(), 1);
+    QCOMPARE(home.files(), fileExists ? QStringList("readonly/store.PYXXml") : QStringList());
+}
+
+QTEST_GUILESS_MAIN(tst_ReadOnlyStore)
+#include "tst_ReadOnlyStore.moc"

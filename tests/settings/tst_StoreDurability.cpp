@@ -1,0 +1,136 @@
+// SPDX-FileCopyrightText: 2026 The PYXRuntime developers
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "PYXSettings.h"
+#include "PYXTraceWrapper.h"
+#include "RecordingTracer.h"
+#include "SettingsHome.h"
+
+#include <QtCore/QProcess>
+#include <QtCore/QRandomGenerator>
+#include <QtTest/QtTest>
+
+#include <memory>
+#include <vector>
+
+using PYXRuntime::PYXSettings;
+using PYXRuntime::PYXTraceWrapper;
+
+/** What stores go through: other writers, writers that die, directories that cannot be written. */
+class tst_StoreDurability : public QObject
+{
+    Q_OBJECT
+private slots:
+    void init() { PYXTraceWrapper::addTracer(&m_tracer); }
+    void cleanup()
+    {
+        PYXTraceWrapper::removeTracer(&m_tracer);
+        m_tracer.calls.clear();
+    }
+    void fourProcessesKeepAllKeys();
+    void aKilledWriterLeavesAWholeFile();
+    void aVanishedDirectoryIsMadeAgain();
+    void aStoreThatCannotBeWrittenIsToldOnce();
+
+private:
+    static QString writer() { return QCoreApplication::applicationDirPath() + "/storewriter"; }
+    /** Writes in the way of applications. @return the status. */
+    static QSettings::Status save(const QString &file, int value)
+    {
+        PYXSettings settings(file);
+        settings.setValue("Key", value);
+        QCoreApplication::sendPostedEvents(&settings);
+        return settings.status();
+    }
+
+    SettingsHome m_home;
+    RecordingTracer m_tracer;
+};
+
+void tst_StoreDurability::fourProcessesKeepAllKeys()
+{
+    constexpr int Processes = 4;
+    constexpr int KeysOfEach = 500;
+    const QString file = m_home.path("contended.PYXXml");
+    std::vector<std::unique_ptr<QProcess>> writers;
+    for (int i = 0; i < Processes; ++i) {
+        writers.push_back(std::make_unique<QProcess>());
+        writers.back()->start(writer(),
+                              {file, "many", QString("Process%1").arg(i), QString::number(KeysOfEach)});
+    }
+    for (const auto &process : writers) {
+        QVERIFY(process->waitForFinished(60'000));
+        QCOMPARE(process->exitCode(), 0);
+    }
+    const PYXSettings settings(file);
+    QCOMPARE(settings.allKeys().size(), Processes * KeysOfEach);
+    QCOMPARE(settings.status(), QSettings::NoError);
+}
+
+void tst_StoreDurability::aKilledWriterLeavesAWholeFile()
+{
+    if (QSysInfo::kernelType() == "winnt")
+        QSKIP("It takes minutes to start so many processes there");
+    constexpr int Kills = 200;
+    constexpr int LatestMs = 20;
+    const QString file = m_home.path("torn.PYXXml");
+    auto *const random = QRandomGenerator::global();
+    int last = 0;
+    for (int i = 0; i < Kills; ++i) {
+        QProcess process;
+        process.start(writer(), {file, "forever"});
+        QVERIFY(process.waitForReadyRead(60'000)); // it has saved once
+        QVERIFY(!process.waitForFinished(random->bounded(LatestMs)));
+        process.kill();
+        QVERIFY(process.waitForFinished(60'000));
+        // Under another name: this process would take what it remembers for a file of the same size and time.
+        const QString copy = m_home.path(QString("copy%1").arg(i));
+        QVERIFY(QFile::copy(file, copy));
+        const PYXSettings settings(copy);
+        QCOMPARE(settings.status(), QSettings::NoError);
+        const int generation = settings.intValue("Key0");
+        for (int key = 0; key < 100; ++key)
+            QCOMPARE(settings.value(QString("Key%1").arg(key)), QVariant(QString::number(generation)));
+        QVERIFY2(generation > last, "what was saved has gone");
+        last = generation;
+    }
+}
+
+void tst_StoreDurability::aVanishedDirectoryIsMadeAgain()
+{
+    const QString file = m_home.path("vanishing/store.PYXXml");
+    PYXSettings settings(file);
+    settings.setValue("Before", 1);
+    settings.sync();
+    QVERIFY(QDir(m_home.path("vanishing")).removeRecursively());
+    settings.setValue("After", 2);
+    settings.sync();
+    QCOMPARE(settings.status(), QSettings::NoError);
+    QVERIFY(QFile::exists(file));
+    QCOMPARE(m_tracer.calls, QStringList());
+}
+
+void tst_StoreDurability::aStoreThatCannotBeWrittenIsToldOnce()
+{
+    const QString file = m_home.path("blocked/store.PYXXml");
+    QFile wall(m_home.path("blocked")); // where the directory should be
+    QVERIFY(wall.open(QIODevice::WriteOnly));
+    wall.close();
+    for (int value = 0; value < 3; ++value)
+        QCOMPARE(save(file, value), QSettings::AccessError);
+    PYXSettings(file).setValue("Key", 4); // saved as it goes
+    QCOMPARE(m_tracer.calls.size(), 1);
+    QVERIFY2(m_tracer.calls.first().startsWith("Warn|The settings file \"" + file +
+                                               "\" cannot be written; its changes are not saved.|"
+                                               "source\\PYXSettings|"),
+             qPrintable(m_tracer.calls.first()));
+    QVERIFY(wall.remove());
+    QCOMPARE(save(file, 5), QSettings::NoError);
+    QCOMPARE(PYXSettings(file).intValue("Key"), 5);
+    QVERIFY(QDir(m_home.path("blocked")).removeRecursively() && wall.open(QIODevice::WriteOnly));
+    wall.close();
+    QCOMPARE(save(file, 6), QSettings::AccessError);
+    QCOMPARE(m_tracer.calls.size(), 2); // it had been good in between
+}
+
+QTEST_GUILESS_MAIN(tst_StoreDurability)
+#include "tst_StoreDurability.moc"
