@@ -5,13 +5,15 @@
 #include <QtCore/QDataStream>
 #include <QtCore/QString>
 
+#include <cstddef>
+
 /** The words of the XML form, shared by its reader and its writer. */
 namespace PYXRuntime::StatusHashXmlForms {
 
-template <int Size>
+template <std::size_t Size>
 constexpr QLatin1String word(const char (&text)[Size])
 {
-    return QLatin1String(text, Size - 1);
+    return QLatin1String(text, int(Size) - 1);
 }
 
 constexpr QLatin1String StatusHash = word("StatusHash"); // also the tag of the element
