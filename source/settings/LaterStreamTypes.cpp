@@ -6,6 +6,7 @@
 #include "StreamCursor.h"
 
 #include <QtCore/QMetaType>
+#include <QtCore/QTimeZone>
 
 #include <algorithm>
 
@@ -37,18 +38,29 @@ bool isZoneName(const QByteArray &utf16)
     return utf16.size() % 2 == 0 && !utf16.contains('.') && !utf16.startsWith(QByteArray("\0/", 2));
 }
 
+/** QTimeZone can read a zone that the system does not have, but crashes when it writes it again. */
+bool isKnownZone(const QByteArray &bytes)
+{
+    QDataStream stream(bytes);
+    QTimeZone zone;
+    stream >> zone;
+    return stream.status() == QDataStream::Ok && zone.isValid();
+}
+
 bool walkZone(StreamCursor &cursor)
 {
+    const QByteArray bytes = cursor.rest();
     const QByteArray name = cursor.byteArray();
-    if (name != QByteArray::fromRawData(OffsetZone, int(sizeof OffsetZone) - 1))
-        return isZoneName(name) ? !cursor.failed() : cursor.fail();
-    const bool bId = isZoneName(cursor.byteArray());
-    cursor.skip(4);
-    cursor.skipString();
-    cursor.skipString();
-    cursor.skip(4);
-    cursor.skipString();
-    return bId ? !cursor.failed() : cursor.fail();
+    bool bSafe = isZoneName(name);
+    if (name == QByteArray::fromRawData(OffsetZone, int(sizeof OffsetZone) - 1)) {
+        bSafe = isZoneName(cursor.byteArray());
+        cursor.skip(4); // seconds, names, country, comment
+        cursor.skipString();
+        cursor.skipString();
+        cursor.skip(4);
+        cursor.skipString();
+    }
+    return !cursor.failed() && bSafe && isKnownZone(bytes) ? true : cursor.fail();
 }
 
 bool walkDateTime(StreamCursor &cursor, QDataStream::Version version)

@@ -73,8 +73,8 @@ bool takeVariant(XmlElementCursor &cursor, QVariant &value)
     return stream.status() == QDataStream::Ok;
 }
 
-/** Reads the first child with the tag of T as a Value; leaves the entry. */
-template <typename T, typename Value = T>
+/** Reads the first child with the tag of T; leaves the entry. */
+template <typename T>
 bool takeGeometry(XmlElementCursor &cursor, QVariant &value)
 {
     bool bRead = false;
@@ -82,11 +82,21 @@ bool takeGeometry(XmlElementCursor &cursor, QVariant &value)
         T geometry;
         if (!bRead && cursor.tag() == SerializationHelpers::elementTag<T>()) {
             bRead = GeometryXml::read(cursor, geometry);
-            value = Value(geometry);
+            value = geometry;
         } else {
             cursor.skip();
         }
     }
+    return bRead;
+}
+
+/** Stands as a rectangle of integers. The size is that of a double: Qt's conversion may exceed an int. */
+bool takeRectF(XmlElementCursor &cursor, QVariant &value)
+{
+    const bool bRead = takeGeometry<QRect>(cursor, value);
+    const QRect rect = value.toRect();
+    value = QRectF(rect.left(), rect.top(), double(rect.right()) - rect.left() + 1,
+                   double(rect.bottom()) - rect.top() + 1);
     return bRead;
 }
 
@@ -110,7 +120,7 @@ constexpr struForm Forms[] = {
     {StatusHashXmlForms::Size, takeGeometry<QSize>},
     {StatusHashXmlForms::SizeF, takeGeometry<QSizeF>},
     {StatusHashXmlForms::Rect, takeGeometry<QRect>},
-    {StatusHashXmlForms::RectF, takeGeometry<QRect, QRectF>},
+    {StatusHashXmlForms::RectF, takeRectF},
     {StatusHashXmlForms::Line, takeGeometry<QLine>},
     {StatusHashXmlForms::LineF, takeGeometry<QLineF>},
 };

@@ -256,6 +256,7 @@ private Q_SLOTS:
     void restoresEveryTypeAtEveryVersion();
     void refusesHostileBytes_data();
     void refusesHostileBytes();
+    void refusesZonesThatAreNone();
     void bearsDamagedBytes();
     void writesTheXmlForm();
     void writesAnyKey();
@@ -488,6 +489,22 @@ void tst_PYXStatusHash::refusesHostileBytes()
     QVERIFY(!hash.restoreFromXml("<StatusHash><a type='Variant'>" + variant.toPercentEncoding() +
                                  "</a></StatusHash>"));
     QVERIFY(timer.elapsed() < 2000);
+}
+
+void tst_PYXStatusHash::refusesZonesThatAreNone()
+{
+    const SilentScope silence;
+    const auto isRestored = [](const QByteArray &zone) {
+        const QByteArray moment = Bytes().u32(0).u32(2461000).u32(1000).u8(Qt::TimeZone);
+        return PYXStatusHash(QDataStream::Qt_5_15)
+            .restoreFrom(oneEntry().u32(QMetaType::QDateTime).u8(0).raw(moment).raw(zone));
+    };
+    const Bytes offset = Bytes().text("OffsetFromUtc");
+    const Bytes names = Bytes().u32(3600).text("n").text("a").u32(0).text("");
+    QVERIFY(isRestored(Bytes().text("Europe/Berlin")));
+    QVERIFY(isRestored(Bytes(offset).text("Own").raw(names)));
+    QVERIFY(!isRestored(Bytes().text("Europe/Nowhere"))); // QTimeZone reads it but cannot write it
+    QVERIFY(!isRestored(Bytes().text("../zoneinfo/Europe/Berlin")));
 }
 
 void tst_PYXStatusHash::bearsDamagedBytes()
