@@ -36,7 +36,7 @@ struct struChildren
 struChildren childrenOf(PYXSettings &settings, const QString &group)
 {
     settings.beginGroup(group);
-    const struChildren children = {settings.childKeys(false), settings.childGroups(false)};
+    struChildren children = {settings.childKeys(false), settings.childGroups(false)};
     settings.endGroup();
     return children;
 }
@@ -118,11 +118,11 @@ QStringList diffUserPaths(const QString &current, const QString &clone)
 QStringList diffSharedPaths()
 {
     PYXSettings shared(PYXSettings::eUserSharedSettings);
-    const QStringList changes = diff(shared, SharedPathSettings::Group, SavedPathsGroup);
+    QStringList changes = diff(shared, SharedPathSettings::Group, SavedPathsGroup);
     if (changes.isEmpty())
         return changes;
     traceDebug(QString(SharedPathsChanged).arg(changes.size()), __LINE__);
-    for (const QString &key : changes) {
+    for (const QString &key : qAsConst(changes)) {
         const QString directory = shared.stringValue(key);
         traceDebug(QStringLiteral("shared path [%1] changed: %2").arg(key, directory), __LINE__);
         moveFileDialogs(key, directory);

@@ -7,6 +7,13 @@
 /** The directories of the organisation that have a setting in the shared stores. */
 namespace PYXRuntime::SharedPathSettings {
 
+/** The constructor that counts the characters itself is not constexpr everywhere. */
+template <int Size>
+constexpr QLatin1String latin1(const char (&text)[Size])
+{
+    return QLatin1String(text, Size - 1);
+}
+
 struct struSharedPath
 {
     QLatin1String key;
@@ -14,10 +21,10 @@ struct struSharedPath
 };
 
 /** The group of all of them. */
-constexpr QLatin1String Group("Paths");
+constexpr QLatin1String Group = latin1("Paths");
 
-constexpr struSharedPath Scripts{QLatin1String("Paths/Scripts"), 26};
-constexpr struSharedPath Collections{QLatin1String("Paths/Collections"), 27};
-constexpr struSharedPath DetectorProfiles{QLatin1String("Paths/DetectorProfiles"), 28};
+constexpr struSharedPath Scripts{latin1("Paths/Scripts"), 26};
+constexpr struSharedPath Collections{latin1("Paths/Collections"), 27};
+constexpr struSharedPath DetectorProfiles{latin1("Paths/DetectorProfiles"), 28};
 
 } // namespace PYXRuntime::SharedPathSettings
