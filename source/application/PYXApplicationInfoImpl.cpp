@@ -249,6 +249,10 @@ Qt::LayoutDirection PYXApplicationInfoImpl::getLayoutDirection(const QString &ke
 
 void PYXApplicationInfoImpl::initSharedPathsDefaults()
 {
+    _beforeQuery();
+    // Where the program lies decides where they belong.
+    if (m_bNeedsInitialize)
+        return;
     PYXSettings settings(PYXSettings::eDefaultSharedSettings);
     for (const auto &path : {SharedPathSettings::Collections, SharedPathSettings::DetectorProfiles,
                              SharedPathSettings::Scripts}) {
