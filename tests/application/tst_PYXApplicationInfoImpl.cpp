@@ -43,8 +43,6 @@ private slots:
     void worksWithoutAnApplicationObject();
     void codesHaveTheirPaths_data();
     void codesHaveTheirPaths();
-    void unknownCodes_data();
-    void unknownCodes();
     void programPlaces_data();
     void programPlaces();
     void namesHaveDefaults();
@@ -52,7 +50,6 @@ private slots:
     void portablePrograms_data();
     void portablePrograms();
     void markedProgramIsPortable();
-    void pathsOnThePortableDrive_data();
     void pathsOnThePortableDrive();
     void settingsFollowTheirDirectories_data();
     void settingsFollowTheirDirectories();
@@ -159,7 +156,7 @@ void tst_PYXApplicationInfoImpl::codesHaveTheirPaths_data()
         {0, "eApplicationBaseDir", "C:/Prog/App"},
         {1, "eApplicationPluginsBaseDir", "C:/Prog/App/plugins"},
         {2, "eApplicationUserPublicDataBaseDir", "{5}/Organisation/Application"},
-        {3, "", "{39}/Organisation/Application"},
+        {3, "<unknown> 3", "{39}/Organisation/Application"},
         {4, "eApplicationUserPrivateDataBaseDir", "{26}/Organisation/Application"},
         {5, "eApplicationLocalDataBaseDir", "{28}/Organisation/Application"},
         {6, "eApplicationOutputBaseDir", "{5}/Organisation/Application"},
@@ -186,14 +183,14 @@ void tst_PYXApplicationInfoImpl::codesHaveTheirPaths_data()
         {27, "eOrganizationSharedCollectionsDir", "{5}/Organisation/Shared/collections"},
         {28, "eOrganizationSharedDetectorProfilesDir", "{5}/Organisation/Shared/detectorprofiles"},
         {29, "eOrganizationUserPublicDataBaseDir", "{5}/Organisation"},
-        {30, "", "{39}/Organisation"},
+        {30, "<unknown> 30", "{39}/Organisation"},
         {31, "eOrganizationUserPrivateDataBaseDir", "{26}/Organisation"},
         {32, "eOrganizationLocalDataBaseDir", "{28}/Organisation"},
         {33, "eOrganizationOutputBaseDir", "{5}/Organisation"},
         {34, "eOrganizationCommonPrivateDataBaseDir", "{35}/Organisation"},
         {35, "eOrganizationCommonPublicDataBaseDir", "{46}/Organisation"},
         {100, "eSystemUserDocuments", "{5}"},
-        {101, "", "{39}"},
+        {101, "<unknown> 101", "{39}"},
         {102, "eSystemUserAppData", "{26}"},
         {103, "eSystemUserLocalAppData", "{28}"},
         {104, "eSystemProgramFiles", "{38}"},
@@ -202,6 +199,10 @@ void tst_PYXApplicationInfoImpl::codesHaveTheirPaths_data()
         {107, "eSystemTemporaryFiles", "/temporary"},
         {108, "eSystemCommonAppData", "{35}"},
         {109, "eSystemCommonDocuments", "{46}"},
+        {36, "<unknown> 36", "."},
+        {110, "<unknown> 110", "."},
+        {1000, "<unknown> 1000", "."},
+        {1003, "eSpecialDirFirstUser + 3", "."},
     };
     for (const auto &row : rows)
         QTest::addRow("%u %s", row.code, row.name) << row.code << QString(row.name) << QString(row.path);
@@ -211,75 +212,35 @@ void tst_PYXApplicationInfoImpl::codesHaveTheirPaths()
 {
     QFETCH(uint, code);
     QFETCH(QString, name);
+    QFETCH(QString, path);
     Info info;
-    QTEST(info.getSpecialDirPath(code, false)
-              .replace(m_home->path("shell/"), "{")
-              .replace(QRegularExpression("^\\{(\\d+)"), "{\\1}"),
-          "path");
-    QCOMPARE(Info::staticSpecialDirsEnumByValue().value(code), name);
-    QCOMPARE(Info::getSpecialDirEnumName(code), name.isEmpty() ? QString("<unknown> %1").arg(code) : name);
-    if (!name.isEmpty())
-        QCOMPARE(Info::staticSpecialDirsEnumByName().value(name, 9999), code);
-}
-
-void tst_PYXApplicationInfoImpl::unknownCodes_data()
-{
-    QTest::addColumn<uint>("code");
-    QTest::addColumn<QString>("name");
-    QTest::newRow("a gap") << 36u << "<unknown> 36";
-    QTest::newRow("before the system's") << 99u << "<unknown> 99";
-    QTest::newRow("behind the last") << 110u << "<unknown> 110";
-    QTest::newRow("the border itself") << 1000u << "<unknown> 1000";
-    QTest::newRow("an application's") << 1003u << "eSpecialDirFirstUser + 3";
-}
-
-void tst_PYXApplicationInfoImpl::unknownCodes()
-{
-    QFETCH(uint, code);
-    Info info;
-    QCOMPARE(info.getSpecialDirPath(code, true), QString("."));
-    QTEST(Info::getSpecialDirEnumName(code), "name");
-    QCOMPARE(Info::staticSpecialDirsEnumByValue().size(), 43);
+    QCOMPARE(info.getSpecialDirPath(code, false), expanded(path));
+    QCOMPARE(Info::getSpecialDirEnumName(code), name);
+    const bool bNamed = !name.contains(' ');
+    QCOMPARE(Info::staticSpecialDirsEnumByValue().value(code), bNamed ? name : QString());
+    QCOMPARE(Info::staticSpecialDirsEnumByName().value(name, 9999), bNamed ? code : 9999);
     QCOMPARE(Info::staticSpecialDirsEnumByName().size(), 43);
 }
 
 void tst_PYXApplicationInfoImpl::programPlaces_data()
 {
-    QTest::addColumn<QString>("program");
     QTest::addColumn<QString>("base");
     QTest::addColumn<QString>("plugins");
     QTest::addColumn<QString>("root");
-    QTest::newRow("any case") << "c:/Prog/BIN"
-                              << "c:/Prog"
-                              << "c:/Prog/plugins"
-                              << "C:";
-    QTest::newRow("not in bin") << "D:/cabin"
-                                << "D:/cabin"
-                                << "D:/cabin/plugins"
-                                << "D:";
-    QTest::newRow("bin in a drive") << "D:/bin"
-                                    << "D:/"
-                                    << "D:/plugins"
-                                    << "D:";
-    QTest::newRow("bin in the root") << "/bin"
-                                     << "/"
-                                     << "/plugins"
-                                     << "";
-    QTest::newRow("without a letter") << "/opt/App/bin"
-                                      << "/opt/App"
-                                      << "/opt/App/plugins"
-                                      << "";
-    QTest::newRow("below bin") << "/opt/bin/App"
-                               << "/opt/bin/App"
-                               << "/opt/bin/App/plugins"
-                               << "";
+    const char *const rows[][4] = {{"c:/Prog/BIN", "c:/Prog", "c:/Prog/plugins", "C:"},
+                                   {"D:/cabin", "D:/cabin", "D:/cabin/plugins", "D:"},
+                                   {"D:/bin", "D:/", "D:/plugins", "D:"},
+                                   {"/bin", "/", "/plugins", ""},
+                                   {"/opt/App/bin", "/opt/App", "/opt/App/plugins", ""},
+                                   {"/opt/bin/App", "/opt/bin/App", "/opt/bin/App/plugins", ""}};
+    for (const auto &row : rows)
+        QTest::newRow(row[0]) << QString(row[1]) << QString(row[2]) << QString(row[3]);
 }
 
 void tst_PYXApplicationInfoImpl::programPlaces()
 {
     QFETCH(QString, root);
-    QFETCH(QString, program);
-    m_program = program;
+    m_program = QTest::currentDataTag();
     Info info;
     QTEST(info.getSpecialDirPath(Info::eApplicationBaseDir, false), "base");
     QTEST(info.getSpecialDirPath(Info::eApplicationPluginsBaseDir, false), "plugins");
@@ -315,30 +276,34 @@ void tst_PYXApplicationInfoImpl::portablePrograms_data()
     QTest::addColumn<bool>("compatible");
     QTest::addColumn<uint>("code");
     QTest::addColumn<QString>("path");
-    const auto row = [](const char *program, bool bCompatible, uint code, const char *path) {
-        QTest::addRow("%s %d %u", program, int(bCompatible), code) << program << bCompatible << code << path;
-    };
     const struct
     {
+        const char *program;
+        bool bCompatible;
         uint code;
-        const char *suffix;
-    } folders[] = {{100, "/Personal/Documents"},       {101, "/Personal/Pictures"},
-                   {102, "/Personal/AppData/Roaming"}, {103, "/Personal/AppData/Local"},
-                   {108, "/Common/AppData"},           {109, "/Common/Documents"}};
-    for (const auto &folder : folders) {
-        row("E:/App/bin", false, folder.code, qPrintable(QString("/portable") + folder.suffix));
-        row("/media/App", false, folder.code, qPrintable(QString("{mount}/portable") + folder.suffix));
-    }
-    row("E:/App/bin", true, 100, "E:/App/portable/Personal Documents");
-    row("E:/App/bin", true, 101, "E:/App/portable/Personal Pictures");
-    row("E:/App/bin", true, 102, "E:/App/portable/Roaming Data");
-    row("/media/App", true, 103, "/media/App/portable/Local Data");
-    row("E:/App/bin", true, 108, "{35}");
-    row("E:/App/bin", true, 109, "{46}");
-    row("E:/App/bin", false, 104, "{38}");
-    row("E:/App/bin", false, 106, "{0}");
-    row("E:/App/bin", false, 7, "/portable/Personal/Documents/Organisation/Application/logs");
-    row("E:/App/bin", false, 16, "/temporary/Organisation/Application/cache");
+        const char *path;
+    } rows[] = {
+        {"E:/App/bin", false, 100, "/portable/Personal/Documents"},
+        {"E:/App/bin", false, 101, "/portable/Personal/Pictures"},
+        {"E:/App/bin", false, 102, "/portable/Personal/AppData/Roaming"},
+        {"E:/App/bin", false, 103, "/portable/Personal/AppData/Local"},
+        {"E:/App/bin", false, 104, "{38}"},
+        {"E:/App/bin", false, 108, "/portable/Common/AppData"},
+        {"E:/App/bin", false, 109, "/portable/Common/Documents"},
+        {"E:/App/bin", false, 7, "/portable/Personal/Documents/Organisation/Application/logs"},
+        {"E:/App/bin", false, 16, "/temporary/Organisation/Application/cache"},
+        {"/media/App", false, 103, "{mount}/portable/Personal/AppData/Local"},
+        {"/media/App", false, 109, "{mount}/portable/Common/Documents"},
+        {"E:/App/bin", true, 100, "E:/App/portable/Personal Documents"},
+        {"E:/App/bin", true, 101, "E:/App/portable/Personal Pictures"},
+        {"E:/App/bin", true, 102, "E:/App/portable/Roaming Data"},
+        {"/media/App", true, 103, "/media/App/portable/Local Data"},
+        {"E:/App/bin", true, 108, "{35}"},
+        {"E:/App/bin", true, 109, "{46}"},
+    };
+    for (const auto &row : rows)
+        QTest::addRow("%s %d %u", row.program, int(row.bCompatible), row.code)
+            << QString(row.program) << row.bCompatible << row.code << QString(row.path);
 }
 
 void tst_PYXApplicationInfoImpl::portablePrograms()
@@ -377,45 +342,30 @@ void tst_PYXApplicationInfoImpl::markedProgramIsPortable()
     QCOMPARE(info.getSpecialDirPath(Info::eSystemUserLocalAppData, false), expanded("{28}"));
 }
 
-void tst_PYXApplicationInfoImpl::pathsOnThePortableDrive_data()
-{
-    QTest::addColumn<bool>("removable");
-    QTest::addColumn<QString>("program");
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("modified");
-    QTest::newRow("below") << true << "E:/App"
-                           << "E:/data/x.wav"
-                           << "/data/x.wav";
-    QTest::newRow("other case") << true << "E:/App"
-                                << "e:\\data\\x.wav"
-                                << "/data/x.wav";
-    QTest::newRow("the root") << true << "E:/App"
-                              << "E:/"
-                              << "/";
-    QTest::newRow("the bare root") << true << "E:/App"
-                                   << "E:"
-                                   << "/";
-    QTest::newRow("another drive") << true << "E:/App"
-                                   << "D:/data/../x"
-                                   << "D:/data/../x";
-    QTest::newRow("not portable") << false << "E:/App"
-                                  << "E:/data"
-                                  << "E:/data";
-    QTest::newRow("no letter") << true << "/media/App"
-                               << "/media/x"
-                               << "/media/x";
-}
-
 void tst_PYXApplicationInfoImpl::pathsOnThePortableDrive()
 {
-    QFETCH(bool, removable);
-    QFETCH(QString, path);
-    QFETCH(QString, program);
-    m_program = program;
-    m_bRemovable = removable;
-    Info info;
-    info.setInitializeSettingsPaths(false);
-    QTEST(info.modifyPathForPortableDevice(path), "modified");
+    const struct
+    {
+        const char *program;
+        bool bRemovable;
+        QString path;
+        QString modified;
+    } cases[] = {
+        {"E:/App", true, "E:/data/x.wav", "/data/x.wav"},
+        {"E:/App", true, "e:\\data\\x.wav", "/data/x.wav"},
+        {"E:/App", true, "E:/", "/"},
+        {"E:/App", true, "E:", "/"},
+        {"E:/App", true, "D:/data/../x", "D:/data/../x"},
+        {"E:/App", false, "E:/data", "E:/data"},
+        {"/media/App", true, "/media/x", "/media/x"},
+    };
+    for (const auto &c : cases) {
+        m_program = c.program;
+        m_bRemovable = c.bRemovable;
+        Info info;
+        info.setInitializeSettingsPaths(false);
+        QCOMPARE(info.modifyPathForPortableDevice(c.path), c.modified);
+    }
 }
 
 void tst_PYXApplicationInfoImpl::settingsFollowTheirDirectories_data()
