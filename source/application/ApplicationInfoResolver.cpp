@@ -12,9 +12,9 @@ namespace {
 
 using SpecialDirTable::struSpecialDir;
 
-constexpr QLatin1String Unknown(".");
-constexpr QLatin1String PortableTree("portable");
-constexpr QLatin1String PortableTreeBesideMarker("portable-data");
+constexpr char Unknown[] = ".";
+constexpr char PortableTree[] = "portable";
+constexpr char PortableTreeBesideMarker[] = "portable-data";
 
 QString subPath(SpecialDirTable::eNames names)
 {
@@ -63,7 +63,7 @@ QString PYXApplicationInfoImpl::Resolver::path(const struSpecialDir &dir) const
     case SpecialDirTable::ekRule_Temporary:
         return temporaryFiles();
     }
-    return Unknown;
+    return QLatin1String(Unknown);
 }
 
 /** A removable drive is slow, and wears out. */
@@ -81,7 +81,7 @@ QString PYXApplicationInfoImpl::Resolver::_shellFolder(const struSpecialDir &dir
     if (m_info.m_bRemovableDrive && suffix != nullptr)
         return ProgramPaths::joined({_portableTree(), QLatin1String(suffix)});
     const QString path = getWindowsSpecialDir(dir.base);
-    return path.isEmpty() ? QString(Unknown) : path;
+    return path.isEmpty() ? QString(QLatin1String(Unknown)) : path;
 }
 
 QString PYXApplicationInfoImpl::Resolver::_portableTree() const
@@ -89,8 +89,8 @@ QString PYXApplicationInfoImpl::Resolver::_portableTree() const
     const QString place =
         m_info.m_bSpecialDirCompatibilityMode ? _other(eApplicationBaseDir) : m_info.m_portablePlace;
     const QString parent = ProgramPaths::withoutSeparator(place) + QLatin1Char('/');
-    const QString tree = parent + PortableTree;
-    return QFileInfo(tree).isFile() ? parent + PortableTreeBesideMarker : tree;
+    const QString tree = parent + QLatin1String(PortableTree);
+    return QFileInfo(tree).isFile() ? parent + QLatin1String(PortableTreeBesideMarker) : tree;
 }
 
 } // namespace PYXRuntime

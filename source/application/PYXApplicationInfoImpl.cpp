@@ -24,10 +24,10 @@ using SpecialDirTable::struSpecialDir;
 const uint s_runtimeScope = PYXRuntimeCenter::registerRuntimeScope(
     QStringLiteral("PYXApplicationInfoImpl"), QStringLiteral("application information, special directories"));
 
-constexpr QLatin1String Unknown(".");
-constexpr QLatin1String MarkerFile("portable");
-constexpr QLatin1String CompatibleUserSettings("userSettings");
-constexpr QLatin1String CompatibleDefaultSettings("defaultSettings");
+constexpr char Unknown[] = ".";
+constexpr char MarkerFile[] = "portable";
+constexpr char CompatibleUserSettings[] = "userSettings";
+constexpr char CompatibleDefaultSettings[] = "defaultSettings";
 
 QString keyOfLastDir(const QString &id)
 {
@@ -107,7 +107,7 @@ void PYXApplicationInfoImpl::_locateProgram()
     if (QCoreApplication::instance() == nullptr) {
         pyx_message_output("PYXRuntime::PYXApplicationInfoImpl: no QCoreApplication instance available, "
                            "cannot determine eApplicationBaseDir");
-        m_baseDir = Unknown;
+        m_baseDir = QLatin1String(Unknown);
         return;
     }
     m_baseDir = ProgramPaths::aboveBin(Platform::programDirectory());
@@ -120,7 +120,7 @@ void PYXApplicationInfoImpl::_locateProgram()
     const bool bOnRemovableDrive =
         Platform::isOnRemovableDrive(m_driveRoot.isEmpty() ? m_baseDir : m_driveRoot);
     m_bRemovableDrive =
-        bOnRemovableDrive || QFileInfo(ProgramPaths::joined({m_baseDir, MarkerFile})).isFile();
+        bOnRemovableDrive || QFileInfo(ProgramPaths::joined({m_baseDir, QLatin1String(MarkerFile)})).isFile();
     if (m_bRemovableDrive && m_driveRoot.isEmpty())
         m_portablePlace =
             ProgramPaths::withoutSeparator(bOnRemovableDrive ? Platform::mountPoint(m_baseDir) : m_baseDir);
@@ -141,8 +141,8 @@ void PYXApplicationInfoImpl::_pointSettings()
     QString system;
     if (m_bSpecialDirCompatibilityMode) {
         const QString local = getSpecialDirPath(eApplicationLocalDataBaseDir, false);
-        user = ProgramPaths::joined({local, CompatibleUserSettings});
-        system = ProgramPaths::joined({local, CompatibleDefaultSettings});
+        user = ProgramPaths::joined({local, QLatin1String(CompatibleUserSettings)});
+        system = ProgramPaths::joined({local, QLatin1String(CompatibleDefaultSettings)});
     } else {
         user = getSpecialDirPath(eSystemUserLocalAppData, false);
         system = getSpecialDirPath(eSystemCommonAppData, false);
@@ -200,7 +200,7 @@ QString PYXApplicationInfoImpl::getSpecialDirPath(uint code, bool create)
     _beforeQuery();
     const struSpecialDir *const dir = SpecialDirTable::find(code);
     if (dir == nullptr)
-        return Unknown;
+        return QLatin1String(Unknown);
     const QScopedValueRollback<bool> resolving(m_bResolving, true);
     const bool bDirectory = code != eApplicationDriveLetter && code != eApplicationDriveRoot;
     return created(Resolver(*this).path(*dir), create && bDirectory);
@@ -276,7 +276,7 @@ void PYXApplicationInfoImpl::initSharedPathsDefaults()
 QString PYXApplicationInfoImpl::getDefault_SharedSpecialDirPath(uint code, bool create)
 {
     if (!isSharedDir(code))
-        return Unknown;
+        return QLatin1String(Unknown);
     const struSpecialDir *const dir = SpecialDirTable::find(code);
     const QString base = getSpecialDirPath(dir->base, false);
     return created(ProgramPaths::joined({base, QLatin1String(dir->suffix)}), create);

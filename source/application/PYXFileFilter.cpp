@@ -176,7 +176,7 @@ QStringList PYXFileFilter::_run(QFileDialog &dialog, const QString &proposal) co
         dialog.selectFile(place.fileName());
     if (dialog.exec() != QDialog::Accepted)
         return {};
-    const QStringList chosen = dialog.selectedFiles();
+    QStringList chosen = dialog.selectedFiles();
     setLastFileOrDir(chosen.value(0));
     return chosen;
 }
