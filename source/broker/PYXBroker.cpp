@@ -4,7 +4,9 @@
 
 #include "BrokerTable.h"
 #include "DataMutex.h"
+#include "PYXInterfaceIdentifiers.h"
 #include "SingletonHolder.h"
+#include "StandardApplicationInfo.h"
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QEventLoop>
@@ -21,6 +23,8 @@ namespace {
 
 using Holder = SingletonHolder<PYXBroker>;
 using Locker = std::lock_guard<DataMutex>;
+
+constexpr uint StandardName = 0;
 
 /** A registered object; its QPointer copy keeps nothing alive. */
 PYXBroker::struRegistration describe(const QPointer<QObject> &object)
@@ -52,13 +56,24 @@ public:
     DataMutex interfacesLock;
     QHash<QUuid, QString> interfaces;
     QMutex transactionLock{QMutex::Recursive};
+    QPointer<QObject> standardApplicationInfo;
 };
 
 PYXBroker::PYXBroker()
     : d(std::make_unique<BrokerPrivate>())
-{}
+{
+    d->standardApplicationInfo = createStandardApplicationInfo(this);
+    d->standardApplicationInfo->setObjectName(QStringLiteral("PYXBroker:stdApplicationInfo"));
+    registerObject(InterfaceIdentifiers::applicationInfo(), StandardName, d->standardApplicationInfo);
+}
 
-PYXBroker::~PYXBroker() = default;
+PYXBroker::~PYXBroker()
+{
+    if (d->standardApplicationInfo.isNull())
+        return;
+    unregisterObject(InterfaceIdentifiers::applicationInfo(), StandardName, d->standardApplicationInfo);
+    delete d->standardApplicationInfo;
+}
 
 PYXBroker *PYXBroker::getInstance()
 {

@@ -8,10 +8,10 @@
 namespace PYXRuntime::SharedPathSettings {
 
 /** The constructor that counts the characters itself is not constexpr everywhere. */
-template <int Size>
+template <std::size_t Size>
 constexpr QLatin1String latin1(const char (&text)[Size])
 {
-    return QLatin1String(text, Size - 1);
+    return QLatin1String(text, int(Size) - 1);
 }
 
 struct struSharedPath
