@@ -67,16 +67,13 @@ bool walkDateTime(StreamCursor &cursor, QDataStream::Version version)
 {
     cursor.skip(PlainDateTimeSize);
     const auto spec = cursor.number<qint8>();
+    if (spec < Qt::LocalTime || spec > Qt::TimeZone)
+        return cursor.fail(); // QDateTime would take it for a zone that is not there
     if (version < QDataStream::Qt_5_2)
         return !cursor.failed();
-    switch (spec) {
-    case Qt::OffsetFromUTC:
+    if (spec == Qt::OffsetFromUTC)
         return cursor.skip(4);
-    case Qt::TimeZone:
-        return walkZone(cursor);
-    default:
-        return !cursor.failed();
-    }
+    return spec == Qt::TimeZone ? walkZone(cursor) : !cursor.failed();
 }
 
 bool walkFont(StreamCursor &cursor, QDataStream::Version version)
