@@ -6,11 +6,10 @@
 
 #include <PYXTraceWrapper.h>
 
-#include <QtCore/QProcess>
-#include <QtCore/QStandardPaths>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 
+#include <cctype>
 #include <cmath>
 #include <limits>
 
@@ -54,8 +53,6 @@ private Q_SLOTS:
     void survivesBeingCutAtEveryByte();
     void readsInBlocks();
     void refusesWhatIsNoFile();
-    void readsWhatSoxWrites_data();
-    void readsWhatSoxWrites();
 
 private:
     std::unique_ptr<WavReader> _open(const QByteArray &bytes)
@@ -85,8 +82,8 @@ void tst_WavReader::readsEveryFormat_data()
         {-1, 1 / 8388608.0F, 0.5});
     add("32 bit", formatChunk(1, 1, 32) + chunk("data", number(qint32(INT_MIN)) + number(qint32(0x40000000))),
         {-1, 0.5});
-    add("float", formatChunk(3, 1, 32) + chunk("data", number(-0.25F) + number(1.5F)), {-0.25, 1.5});
-    add("long float", formatChunk(3, 1, 64) + chunk("data", number(-0.25) + number(1e300)), {-0.25, 1e9F});
+    add("32 bit float", formatChunk(3, 1, 32) + chunk("data", number(-0.25F) + number(1.5F)), {-0.25, 1.5});
+    add("64 bit float", formatChunk(3, 1, 64) + chunk("data", number(-0.25) + number(1e300)), {-0.25, 1e9F});
     add("float that is no number",
         formatChunk(3, 1, 32) + chunk("data", number(std::numeric_limits<float>::quiet_NaN()) + number(0.5F)),
         {0, 0.5});
@@ -115,6 +112,8 @@ void tst_WavReader::readsEveryFormat()
     QVERIFY2(reader, qPrintable(m_error));
     QCOMPARE(reader->sampleRate(), 48000.0);
     QCOMPARE(reader->isComplex(), complex);
+    if (std::isdigit(*QTest::currentDataTag()) != 0)
+        QCOMPARE(reader->coding(), QString(QTest::currentDataTag()));
     QVector<float> values;
     for (const Sample &sample : samplesOf(*reader)) {
         values += sample.real();
@@ -217,39 +216,6 @@ void tst_WavReader::refusesWhatIsNoFile()
     QVERIFY(m_error.endsWith("\" is not a file."));
     QVERIFY(!WavReader::open(m_directory.filePath("missing.wav"), &m_error));
     QVERIFY(m_error.contains("\" cannot be opened: "));
-}
-
-void tst_WavReader::readsWhatSoxWrites_data()
-{
-    QTest::addColumn<QString>("coding");
-    QTest::newRow("-b 8 -e unsigned-integer") << "8 bit";
-    QTest::newRow("-b 16") << "16 bit";
-    QTest::newRow("-b 24 -c 2") << "24 bit";
-    QTest::newRow("-b 32 -e signed-integer") << "32 bit";
-    QTest::newRow("-b 32 -e floating-point") << "32 bit float";
-    QTest::newRow("-b 64 -e floating-point") << "64 bit float";
-}
-
-void tst_WavReader::readsWhatSoxWrites()
-{
-    const QString sox = QStandardPaths::findExecutable("sox");
-    if (sox.isEmpty())
-        QSKIP("sox is not installed");
-    const QString options = QTest::currentDataTag();
-    const QString path = m_directory.filePath("sox.wav");
-    const QString command = "-r 8000 -n " + options + " %1 synth 0.5 sine 1000 gain -6.0206";
-    QCOMPARE(QProcess::execute(sox, command.arg(path).split(' ')), 0);
-    const auto reader = WavReader::open(path, &m_error);
-    QVERIFY2(reader, qPrintable(m_error));
-    QTEST(reader->coding(), "coding");
-    const std::vector<Sample> samples = samplesOf(*reader);
-    QCOMPARE(int(samples.size()), 4000);
-    const double tolerance = options.startsWith("-b 8") ? 1 / 64.0 : 1e-4;
-    for (std::size_t i = 0; i < samples.size(); ++i) {
-        const double expected = 0.5 * std::sin(double(i) * 6.283185307179586 / 8);
-        QVERIFY(std::abs(double(samples[i].real()) - expected) < tolerance);
-        QCOMPARE(samples[i].imag(), options.endsWith("-c 2") ? samples[i].real() : 0);
-    }
 }
 
 QTEST_GUILESS_MAIN(tst_WavReader)

@@ -32,7 +32,7 @@ private slots:
     void fontsHaveFourFacesInTwoFamilies();
     void substitutions_data();
     void substitutions();
-    void applicationFontFollowsSubstitution();
+    void fontsOfTheApplicationStay();
     void fontsOnDemand();
     void clocks();
     void processesEventsWhileWaiting();
@@ -123,10 +123,15 @@ void tst_PYXRuntime::substitutions_data()
 {
     QTest::addColumn<int>("flags");
     QTest::addColumn<QString>("substitute");
-    QTest::newRow("default") << int(ekInitialize_Default) << "KTCorpid";
-    QTest::newRow("condensed") << int(ekInitialize_CondensedFont) << "KTCorpid Cd";
-    QTest::newRow("none asked for") << int(ekInitialize_NoFontSubstitution) << "MS Shell Dlg 2";
-    QTest::newRow("no fonts") << int(ekInitialize_NoFonts) << "MS Shell Dlg 2";
+    QTest::addColumn<QString>("applicationFont");
+    const QString none = "MS Shell Dlg 2";
+    QTest::newRow("default") << int(ekInitialize_Default) << "KTCorpid"
+                             << "KTCorpid";
+    QTest::newRow("condensed") << int(ekInitialize_CondensedFont) << "KTCorpid Cd"
+                               << "KTCorpid Cd";
+    QTest::newRow("kept") << int(ekInitialize_KeepApplicationFont) << "KTCorpid" << none;
+    QTest::newRow("none asked for") << int(ekInitialize_NoFontSubstitution) << none << none;
+    QTest::newRow("no fonts") << int(ekInitialize_NoFonts) << none << none;
 }
 
 void tst_PYXRuntime::substitutions()
@@ -135,35 +140,28 @@ void tst_PYXRuntime::substitutions()
     QFETCH(QString, substitute);
     QFont::removeSubstitutions("Helvetica");
     QFont::insertSubstitution("Helvetica", "Somebody's");
+    QApplication::setFont(QFont("MS Shell Dlg 2", 11));
     initialize_PYXRuntime(ePYXInitializeFlags(flags));
     QCOMPARE(hasFonts(), flags != ekInitialize_NoFonts);
     QCOMPARE(QFont::substitutes("Helvetica").contains(substitute.toLower()), substitute.startsWith('K'));
     QCOMPARE(QFont::substitute("MS Shell Dlg 2").toLower(), substitute.toLower());
+    QTEST(QApplication::font().family(), "applicationFont");
+    QCOMPARE(QApplication::font().pointSize(), 11);
     uninitialize_PYXRuntime();
     QVERIFY(!hasFonts());
     QCOMPARE(QFont::substitutes("Helvetica"), QStringList{"somebody's"});
     QCOMPARE(QFont::substitutes("MS Shell Dlg 2"), QStringList());
+    QCOMPARE(QApplication::font().family(), QString("MS Shell Dlg 2"));
 }
 
-void tst_PYXRuntime::applicationFontFollowsSubstitution()
+void tst_PYXRuntime::fontsOfTheApplicationStay()
 {
-    const auto fontAfterStart = [](const QString &family, ePYXInitializeFlags flags) {
-        QApplication::setFont(QFont(family, 11));
-        initialize_PYXRuntime(flags);
-        const QFont font = QApplication::font();
-        uninitialize_PYXRuntime();
-        return font.family() + ' ' + QString::number(font.pointSize());
-    };
-    QCOMPARE(fontAfterStart("MS Shell Dlg 2", ekInitialize_Default), QString("KTCorpid 11"));
-    QCOMPARE(QApplication::font().family(), QString("MS Shell Dlg 2"));
-    QCOMPARE(fontAfterStart("MS Shell Dlg 2", ekInitialize_CondensedFont), QString("KTCorpid Cd 11"));
-    QCOMPARE(fontAfterStart("MS Shell Dlg 2", ekInitialize_KeepApplicationFont),
-             QString("MS Shell Dlg 2 11"));
-    QCOMPARE(fontAfterStart("Unsubstituted", ekInitialize_Default), QString("Unsubstituted 11"));
-    // A substitution of the application's own outlives ours.
+    QApplication::setFont(QFont("Unsubstituted"));
     QFont::removeSubstitutions("Helvetica");
     QFont::insertSubstitution("Helvetica", "KTCorpid");
-    QCOMPARE(fontAfterStart("Helvetica", ekInitialize_Default), QString("KTCorpid 11"));
+    initialize_PYXRuntime();
+    QCOMPARE(QApplication::font().family(), QString("Unsubstituted"));
+    uninitialize_PYXRuntime();
     QCOMPARE(QFont::substitutes("Helvetica"), QStringList{"ktcorpid"});
 }
 
