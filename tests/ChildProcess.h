@@ -5,13 +5,12 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QProcess>
-#include <QtCore/QString>
 
 /** What a finished child process has left. */
 struct ChildResult
 {
     bool bFinished = false;
-    int exitCode = -1;
+    int exitCode = -1; ///< stays so where the process crashed or did not end
     QString output;
     QString errors;
 };
@@ -27,8 +26,15 @@ inline ChildResult runChild(const QString &program, const QStringList &arguments
     process.start(program, arguments);
     ChildResult result;
     result.bFinished = process.waitForFinished(60'000) && process.exitStatus() == QProcess::NormalExit;
-    result.exitCode = process.exitCode();
+    if (result.bFinished)
+        result.exitCode = process.exitCode();
     result.output = QString::fromUtf8(process.readAllStandardOutput()).remove('\r');
     result.errors = QString::fromUtf8(process.readAllStandardError()).remove('\r');
     return result;
+}
+
+/** Runs this program for what its main() does with "--probe" and @p what. */
+inline ChildResult runOwnProbe(const QString &what)
+{
+    return runChild(QCoreApplication::applicationFilePath(), {"--probe", what});
 }

@@ -2,42 +2,38 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "IPYXTracer.h"
+#include "PYXTraceWrapper.h"
 
 #include <QtCore/QStringList>
 
-/** A tracer that writes every call down: "<operation>|<texts>|<file>|<line>", lists with "+" between. */
+/** Overrides the three forms of one level. */
+#define RECORD_LEVEL(level)                                                                                  \
+    void trace##level(const QStringList &list, const char *file, ushort line) override                       \
+    {                                                                                                        \
+        record(#level, list.join('+'), file, line);                                                          \
+    }                                                                                                        \
+    void trace##level(const QString &text, const char *file, ushort line) override                           \
+    {                                                                                                        \
+        record(#level, text, file, line);                                                                    \
+    }                                                                                                        \
+    void traceX_##level(const QString &trace, const QString &log, const char *file, ushort line) override    \
+    {                                                                                                        \
+        record("X_" #level, trace + '/' + log, file, line);                                                  \
+    }
+
+/**
+ * A tracer that writes every call down: "<operation>|<texts>|<file>|<line>", lists with "+" between.
+ * It unplugs itself.
+ */
 template <typename Interface>
 class RecordingTracerOf : public Interface
 {
 public:
-    using Text = const QString &;
-    using List = const QStringList &;
-
-    void traceDebug(List l, const char *f, ushort n) override { record("Debug", l.join('+'), f, n); }
-    void traceDebug(Text t, const char *f, ushort n) override { record("Debug", t, f, n); }
-    void traceInfo(List l, const char *f, ushort n) override { record("Info", l.join('+'), f, n); }
-    void traceInfo(Text t, const char *f, ushort n) override { record("Info", t, f, n); }
-    void traceWarn(List l, const char *f, ushort n) override { record("Warn", l.join('+'), f, n); }
-    void traceWarn(Text t, const char *f, ushort n) override { record("Warn", t, f, n); }
-    void traceError(List l, const char *f, ushort n) override { record("Error", l.join('+'), f, n); }
-    void traceError(Text t, const char *f, ushort n) override { record("Error", t, f, n); }
-    void traceX_Debug(Text t, Text l, const char *f, ushort n) override
-    {
-        record("X_Debug", t + '/' + l, f, n);
-    }
-    void traceX_Info(Text t, Text l, const char *f, ushort n) override
-    {
-        record("X_Info", t + '/' + l, f, n);
-    }
-    void traceX_Warn(Text t, Text l, const char *f, ushort n) override
-    {
-        record("X_Warn", t + '/' + l, f, n);
-    }
-    void traceX_Error(Text t, Text l, const char *f, ushort n) override
-    {
-        record("X_Error", t + '/' + l, f, n);
-    }
+    ~RecordingTracerOf() override { PYXRuntime::PYXTraceWrapper::removeTracer(this); }
+    RECORD_LEVEL(Debug)
+    RECORD_LEVEL(Info)
+    RECORD_LEVEL(Warn)
+    RECORD_LEVEL(Error)
 
     QStringList calls;
 
@@ -55,31 +51,17 @@ using RecordingTracer = RecordingTracerOf<Interfaces::IPYXTracer>;
 class RecordingTracer2 : public RecordingTracerOf<Interfaces::IPYXTracer2>
 {
 public:
-    void traceDebug_Info(List l, const char *f, ushort n) override
-    {
-        record("Debug_Info", l.join('+'), f, n);
-    }
-    void traceDebug_Info(Text t, const char *f, ushort n) override { record("Debug_Info", t, f, n); }
-    void traceDebug_Warn(List l, const char *f, ushort n) override
-    {
-        record("Debug_Warn", l.join('+'), f, n);
-    }
-    void traceDebug_Warn(Text t, const char *f, ushort n) override { record("Debug_Warn", t, f, n); }
-    void traceDebug_Error(List l, const char *f, ushort n) override
-    {
-        record("Debug_Error", l.join('+'), f, n);
-    }
-    void traceDebug_Error(Text t, const char *f, ushort n) override { record("Debug_Error", t, f, n); }
-    void traceX_Debug_Info(Text t, Text l, const char *f, ushort n) override
-    {
-        record("X_Debug_Info", t + '/' + l, f, n);
-    }
-    void traceX_Debug_Warn(Text t, Text l, const char *f, ushort n) override
-    {
-        record("X_Debug_Warn", t + '/' + l, f, n);
-    }
-    void traceX_Debug_Error(Text t, Text l, const char *f, ushort n) override
-    {
-        record("X_Debug_Error", t + '/' + l, f, n);
-    }
+    RECORD_LEVEL(Debug_Info)
+    RECORD_LEVEL(Debug_Warn)
+    RECORD_LEVEL(Debug_Error)
 };
+
+/** What a tracer gets while a function runs. */
+template <typename Function>
+QStringList tracesOf(Function function)
+{
+    RecordingTracer tracer;
+    PYXRuntime::PYXTraceWrapper::addTracer(&tracer);
+    function();
+    return tracer.calls;
+}

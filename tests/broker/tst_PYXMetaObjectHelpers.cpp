@@ -1,13 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The PYXRuntime developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "PYXMetaObjectHelpers.h"
-#include "PYXTraceWrapper.h"
 #include "RecordingTracer.h"
 
 #include <QtTest/QtTest>
 
 using PYXRuntime::PYXMetaObjectHelpers;
-using PYXRuntime::PYXTraceWrapper;
 
 class Interface : public QObject
 {
@@ -56,7 +54,6 @@ class tst_PYXMetaObjectHelpers : public QObject
     Q_OBJECT
 private slots:
     void inheritance();
-    void compatibility_data();
     void compatibility();
 };
 
@@ -70,43 +67,31 @@ void tst_PYXMetaObjectHelpers::inheritance()
     // The same class from another library has a meta-object of its own.
     const QMetaObject twin = *interface;
     QVERIFY(PYXMetaObjectHelpers::checkInherits(&twin, interface));
-    const QObject object;
-    QVERIFY(
-        !PYXMetaObjectHelpers::checkInterfaceCompatibility(static_cast<const QObject *>(nullptr), interface));
-    QVERIFY(!PYXMetaObjectHelpers::checkInterfaceCompatibility(&object,
-                                                               static_cast<const QMetaObject *>(nullptr)));
-}
-
-void tst_PYXMetaObjectHelpers::compatibility_data()
-{
-    QTest::addColumn<QObject *>("object");
-    QTest::addColumn<bool>("compatible");
-    QTest::addColumn<QStringList>("traces");
-    QTest::newRow("inherits") << static_cast<QObject *>(new Derived) << true << QStringList();
-    QTest::newRow("has all, one with another access")
-        << static_cast<QObject *>(new Complete) << true
-        << QStringList{"Warn|slot 'reset()' has wrong access specifier 'private' : expected 'public'"};
-    QTest::newRow("lacks all") << static_cast<QObject *>(new Lacking) << false
-                               << QStringList{"Error|public signal 'changed(int)' is missing from interface",
-                                              "Error|public slot 'reset()' is missing from interface",
-                                              "Error|protected slot 'guarded()' is missing from interface",
-                                              "Error|public method 'method(int)' is missing from interface"};
+    const QObject *const none = nullptr;
+    QVERIFY(!PYXMetaObjectHelpers::checkInterfaceCompatibility(none, interface));
+    QVERIFY(!PYXMetaObjectHelpers::checkInterfaceCompatibility(this, none));
 }
 
 void tst_PYXMetaObjectHelpers::compatibility()
 {
-    QFETCH(QObject *, object);
-    QFETCH(bool, compatible);
-    QFETCH(QStringList, traces);
-    const QScopedPointer<QObject> owner(object);
+    /** What the check traces, and its result as the last entry. */
     const Interface interface;
-    RecordingTracer tracer;
-    PYXTraceWrapper::addTracer(&tracer);
-    const bool bResult = PYXMetaObjectHelpers::checkInterfaceCompatibility(object, &interface);
-    PYXTraceWrapper::removeTracer(&tracer);
-    QCOMPARE(bResult, compatible);
-    tracer.calls.replaceInStrings(QRegularExpression("\\|source\\\\PYXMetaObjectHelpers\\|\\d+$"), "");
-    QCOMPARE(tracer.calls, traces);
+    const auto check = [&](const QObject &object) {
+        bool bCompatible = false;
+        QStringList report = tracesOf(
+            [&] { bCompatible = PYXMetaObjectHelpers::checkInterfaceCompatibility(&object, &interface); });
+        report.replaceInStrings(QRegularExpression("\\|source\\\\PYXMetaObjectHelpers\\|\\d+$"), "");
+        return report + QStringList{bCompatible ? "compatible" : "incompatible"};
+    };
+    QCOMPARE(check(Derived()), QStringList{"compatible"});
+    QCOMPARE(check(Complete()),
+             (QStringList{"Warn|slot 'reset()' has wrong access specifier 'private' : expected 'public'",
+                          "compatible"}));
+    QCOMPARE(check(Lacking()),
+             (QStringList{"Error|public signal 'changed(int)' is missing from interface",
+                          "Error|public slot 'reset()' is missing from interface",
+                          "Error|protected slot 'guarded()' is missing from interface",
+                          "Error|public method 'method(int)' is missing from interface", "incompatible"}));
 }
 
 QTEST_APPLESS_MAIN(tst_PYXMetaObjectHelpers)

@@ -7,7 +7,7 @@
 
 #include <cstdio>
 
-using PYXRuntime::PYXRuntimeCenter;
+using Center = PYXRuntime::PYXRuntimeCenter;
 
 /**
  * Applies the configuration file beside it, by the event loop ("loop") or by itself ("direct"; "star": with
@@ -23,18 +23,15 @@ int main(int argc, char **argv)
         QCoreApplication::exec();
     } else {
         if (arguments.value(1) == "star")
-            PYXRuntimeCenter::registerRuntimeScope("*", "");
-        PYXRuntimeCenter::handleConfigFiles();
-        PYXRuntimeCenter::handleConfigFiles(); // has no effect
+            Center::registerRuntimeScope("*", "");
+        Center::handleConfigFiles();
+        Center::handleConfigFiles(); // has no effect
     }
-    PYXRuntimeCenter::registerRuntimeScope("Late", "registered by its module");
-    std::printf("toTrace d%d w%d\n", int(PYXRuntimeCenter::isEnabled_pyxDebugToTrace()),
-                int(PYXRuntimeCenter::isEnabled_pyxWarningToTrace()));
+    Center::registerRuntimeScope("Late", "registered by its module");
+    std::printf("td%d tw%d", Center::isEnabled_pyxDebugToTrace(), Center::isEnabled_pyxWarningToTrace());
     for (const QString &name : arguments.mid(2)) {
-        std::printf("%s %s d%d w%d\n", qPrintable(name),
-                    PYXRuntimeCenter::runtimeScopeToken(name) != 0 ? "known" : "unknown",
-                    int(PYXRuntimeCenter::isEnabled_pyxDebug(name)),
-                    int(PYXRuntimeCenter::isEnabled_pyxWarning(name)));
+        std::printf(" %s%s d%d w%d", Center::runtimeScopeToken(name) != 0 ? "" : "unknown ", qPrintable(name),
+                    Center::isEnabled_pyxDebug(name), Center::isEnabled_pyxWarning(name));
     }
     return 0;
 }

@@ -10,42 +10,36 @@
 
 #include <array>
 #include <atomic>
+#include <functional>
 #include <thread>
-#include <vector>
 
 using PYXRuntime::PYXTraceWrapper;
 
 namespace {
 
-using TextCall = void (*)(const QString &, const char *, ushort);
-using ListCall = void (*)(const QStringList &, const char *, ushort);
-using TwoTextsCall = void (*)(const QString &, const QString &, const char *, ushort);
-
 struct struLevel
 {
     const char *name;
     const char *plainName; ///< the level that a plain tracer sees
-    TextCall text;
-    ListCall list;
-    TwoTextsCall twoTexts;
+    void (*text)(const QString &, const char *, ushort);
+    void (*list)(const QStringList &, const char *, ushort);
+    void (*twoTexts)(const QString &, const QString &, const char *, ushort);
     bool isQualified() const { return qstrcmp(name, plainName) != 0; }
 };
 
+#define LEVEL(name, plainName, operation)                                                                    \
+    {                                                                                                        \
+#name, #plainName, &PYXTraceWrapper::operation, &PYXTraceWrapper::operation,                         \
+            &PYXTraceWrapper::staticTraceX_##name                                                            \
+    }
 const struLevel Levels[] = {
-    {"Debug", "Debug", &PYXTraceWrapper::staticTraceDebug, &PYXTraceWrapper::staticTraceDebug,
-     &PYXTraceWrapper::staticTraceX_Debug},
-    {"Info", "Info", &PYXTraceWrapper::staticTraceInfo, &PYXTraceWrapper::staticTraceInfo,
-     &PYXTraceWrapper::staticTraceX_Info},
-    {"Warn", "Warn", &PYXTraceWrapper::staticTraceWarn, &PYXTraceWrapper::staticTraceWarn,
-     &PYXTraceWrapper::staticTraceX_Warn},
-    {"Error", "Error", &PYXTraceWrapper::staticTraceError, &PYXTraceWrapper::staticTraceError,
-     &PYXTraceWrapper::staticTraceX_Error},
-    {"Debug_Info", "Info", &PYXTraceWrapper::staticTrace_Debug_Info, &PYXTraceWrapper::staticTrace_Debug_Info,
-     &PYXTraceWrapper::staticTraceX_Debug_Info},
-    {"Debug_Warn", "Warn", &PYXTraceWrapper::staticTrace_Debug_Warn, &PYXTraceWrapper::staticTrace_Debug_Warn,
-     &PYXTraceWrapper::staticTraceX_Debug_Warn},
-    {"Debug_Error", "Error", &PYXTraceWrapper::staticTrace_Debug_Error,
-     &PYXTraceWrapper::staticTrace_Debug_Error, &PYXTraceWrapper::staticTraceX_Debug_Error},
+    LEVEL(Debug, Debug, staticTraceDebug),
+    LEVEL(Info, Info, staticTraceInfo),
+    LEVEL(Warn, Warn, staticTraceWarn),
+    LEVEL(Error, Error, staticTraceError),
+    LEVEL(Debug_Info, Info, staticTrace_Debug_Info),
+    LEVEL(Debug_Warn, Warn, staticTrace_Debug_Warn),
+    LEVEL(Debug_Error, Error, staticTrace_Debug_Error),
 };
 
 void callEveryForm(const struLevel &level)
@@ -70,7 +64,6 @@ int runProbe(const QString &what)
         PYXTraceWrapper::staticTraceWarn(QString("unseen"), "f", 1);
         PYXTraceWrapper::enableDebugOutTrace(true);
         PYXTraceWrapper::staticTraceWarn(QString("seen"), "f", 2);
-        PYXTraceWrapper::removeTracer(&tracer);
     } else if (what == "printf") {
         PYXTraceWrapper::setUsePrintfForDebugOutTrace(true);
         PYXTraceWrapper::staticTraceInfo(QString("50%% %d %s %n end"), "f", 1);
@@ -85,10 +78,22 @@ int runProbe(const QString &what)
     return 0;
 }
 
-ChildResult runOwnProbe(const QString &what)
+/** Does something for every information. */
+class ActingTracer : public RecordingTracer
 {
-    return runChild(QCoreApplication::applicationFilePath(), {"--probe", what});
-}
+public:
+    using Action = std::function<void(ActingTracer *)>;
+    explicit ActingTracer(Action action)
+        : m_action(std::move(action))
+    {
+        PYXTraceWrapper::addTracer(this);
+    }
+    using RecordingTracer::traceInfo;
+    void traceInfo(const QString &, const char *, ushort) override { m_action(this); }
+
+private:
+    Action m_action;
+};
 
 } // namespace
 
@@ -96,12 +101,9 @@ class tst_PYXTraceWrapper : public QObject
 {
     Q_OBJECT
 private slots:
-    void debugOutLines();
-    void debugOutBesideTracers();
-    void printfModeConsumesConversions();
+    void writesDebugOut_data();
+    void writesDebugOut();
     void coloursOnATerminal();
-    void messageOutputs();
-    void tracersGetEveryForm_data();
     void tracersGetEveryForm();
     void tracerList();
     void tracersMayChangeTheList();
@@ -109,39 +111,41 @@ private slots:
     void tracesFromManyThreads();
 };
 
-void tst_PYXTraceWrapper::debugOutLines()
+void tst_PYXTraceWrapper::writesDebugOut_data()
 {
-    QString expected;
+    QTest::addColumn<QString>("output");
+    QTest::addColumn<QString>("errors");
+    QString everyLevel;
     for (const struLevel &level : Levels) {
-        const QString tag = QString(level.name).toUpper();
-        expected += QString("source\\File(42) : TRACE_%1 : te%1xt\n").replace("TRACE_%1", "TRACE_" + tag);
-        expected += "source\\File(43) : TRACE_" + tag + " : \n";
-        expected += "source\\File(44) : TRACE_" + tag + " : a | b\n";
-        expected += "source\\File(45) : TRACE_" + tag + " : \n";
-        expected += "source\\File(46) : LOG_" + tag + " : l\n";
-        expected += "source\\File(65535) : TRACE_" + tag + " : t\n";
+        everyLevel += QString("source\\File(42) : TRACE_@ : te%1xt\n"
+                              "source\\File(43) : TRACE_@ : \n"
+                              "source\\File(44) : TRACE_@ : a | b\n"
+                              "source\\File(45) : TRACE_@ : \n"
+                              "source\\File(46) : LOG_@ : l\n"
+                              "source\\File(65535) : TRACE_@ : t\n")
+                          .replace('@', QString(level.name).toUpper());
     }
-    const ChildResult result = runOwnProbe("every level");
-    QVERIFY(result.bFinished);
-    QCOMPARE(result.errors, expected);
-    QCOMPARE(result.output, QString());
+    QTest::newRow("every level") << "" << everyLevel;
+    QTest::newRow("tracer plugged in") << ""
+                                       << "f(2) : TRACE_WARN : seen\n";
+    QTest::newRow("printf") << "f(1) : TRACE_INFO : 50% 0   end\n"
+                            << "";
+    QTest::newRow("colour") << ""
+                            << "f(1) : TRACE_WARN : yellow\n";
+    if (QSysInfo::kernelType() != "winnt") // there the console's code page decides what arrives
+        QTest::newRow("output functions") << "" << QString::fromUtf8("\xC3\xA4\nwide\n\n");
 }
 
-void tst_PYXTraceWrapper::debugOutBesideTracers()
+void tst_PYXTraceWrapper::writesDebugOut()
 {
-    QCOMPARE(runOwnProbe("tracer plugged in").errors, QString("f(2) : TRACE_WARN : seen\n"));
-}
-
-void tst_PYXTraceWrapper::printfModeConsumesConversions()
-{
-    const ChildResult result = runOwnProbe("printf");
-    QCOMPARE(result.output, QString("f(1) : TRACE_INFO : 50% 0   end\n"));
-    QCOMPARE(result.errors, QString());
+    const ChildResult result = runOwnProbe(QTest::currentDataTag());
+    QCOMPARE(result.exitCode, 0);
+    QTEST(result.output, "output");
+    QTEST(result.errors, "errors");
 }
 
 void tst_PYXTraceWrapper::coloursOnATerminal()
 {
-    QCOMPARE(runOwnProbe("colour").errors, QString("f(1) : TRACE_WARN : yellow\n"));
     const QString script = QStandardPaths::findExecutable("script");
     if (script.isEmpty())
         QSKIP("needs the program 'script' to have a terminal");
@@ -150,115 +154,71 @@ void tst_PYXTraceWrapper::coloursOnATerminal()
     QCOMPARE(result.output, QString("\033[93mf(1) : TRACE_WARN : yellow\n\033[0m"));
 }
 
-void tst_PYXTraceWrapper::messageOutputs()
-{
-    if (QSysInfo::kernelType() == "winnt")
-        QSKIP("the console's code page decides what arrives");
-    QCOMPARE(runOwnProbe("output functions").errors, QString::fromUtf8("\xC3\xA4\nwide\n\n"));
-}
-
-void tst_PYXTraceWrapper::tracersGetEveryForm_data()
-{
-    QTest::addColumn<int>("index");
-    for (int index = 0; index < int(std::size(Levels)); ++index)
-        QTest::newRow(Levels[index].name) << index;
-}
-
 void tst_PYXTraceWrapper::tracersGetEveryForm()
 {
-    QFETCH(int, index);
-    const struLevel &level = Levels[index];
-    RecordingTracer plain;
-    RecordingTracer2 qualified;
-    PYXTraceWrapper::addTracer(&plain);
-    PYXTraceWrapper::addTracer(&qualified);
-    callEveryForm(level);
-    PYXTraceWrapper::removeTracer(&plain);
-    PYXTraceWrapper::removeTracer(&qualified);
-
     const auto expected = [](const QString &name, const QString &prefix) {
-        const QString x = "X_" + name;
         return QStringList{name + '|' + prefix + "te%1xt|source\\File|42",
                            name + "||source\\File|43",
                            name + "|a+b|source\\File|44",
                            name + "||source\\File|45",
-                           x + '|' + prefix + "t/" + prefix + "l|source\\File|46",
-                           x + '|' + prefix + "t/|source\\File|65535"};
+                           "X_" + name + '|' + prefix + "t/" + prefix + "l|source\\File|46",
+                           "X_" + name + '|' + prefix + "t/|source\\File|65535"};
     };
-    QCOMPARE(qualified.calls, expected(level.name, ""));
-    QStringList forPlain = expected(level.plainName, level.isQualified() ? "Debug: " : "");
-    if (level.isQualified())
-        forPlain.removeAt(1); // an empty text is not passed on
-    QCOMPARE(plain.calls, forPlain);
+    for (const struLevel &level : Levels) {
+        RecordingTracer2 qualified;
+        PYXTraceWrapper::addTracer(&qualified);
+        const QStringList plainCalls = tracesOf([&] { callEveryForm(level); });
+        QCOMPARE(qualified.calls, expected(level.name, ""));
+        QStringList forPlain = expected(level.plainName, level.isQualified() ? "Debug: " : "");
+        if (level.isQualified())
+            forPlain.removeAt(1); // an empty text is not passed on
+        QCOMPARE(plainCalls, forPlain);
+    }
 }
 
 void tst_PYXTraceWrapper::tracerList()
 {
     RecordingTracer first;
     RecordingTracer second;
-    PYXTraceWrapper::addTracer(&first);
-    PYXTraceWrapper::addTracer(&second);
-    PYXTraceWrapper::addTracer(&first);
-    PYXTraceWrapper::addTracer(nullptr);
-    PYXTraceWrapper::addTracer(PYXTraceWrapper::tracer()); // would call itself
+    for (Interfaces::IPYXTracer *tracer : std::initializer_list<Interfaces::IPYXTracer *>{
+             &first, &second, &first, nullptr, PYXTraceWrapper::tracer()}) // the last would call itself
+        PYXTraceWrapper::addTracer(tracer);
     QCOMPARE(PYXTraceWrapper::tracers(), (QList<Interfaces::IPYXTracer *>{&first, &second}));
-    QVERIFY(!PYXTraceWrapper::containsTracer(nullptr));
     PYXTraceWrapper::removeTracer(nullptr);
     PYXTraceWrapper::removeTracer(&first);
     QVERIFY(!PYXTraceWrapper::containsTracer(&first));
-    PYXTraceWrapper::removeTracer(&second);
-    QVERIFY(PYXTraceWrapper::tracers().isEmpty());
+    QVERIFY(PYXTraceWrapper::containsTracer(&second));
 }
 
 void tst_PYXTraceWrapper::tracersMayChangeTheList()
 {
     std::array<RecordingTracer, 50> added;
-    class ChangingTracer : public RecordingTracer
-    {
-    public:
-        explicit ChangingTracer(std::array<RecordingTracer, 50> &tracers)
-            : m_added(tracers)
-        {}
-        using RecordingTracer::traceInfo;
-        void traceInfo(const QString &text, const char *file, ushort line) override
-        {
-            RecordingTracer::traceInfo(text, file, line);
-            PYXTraceWrapper::removeTracer(this);
-            for (RecordingTracer &tracer : m_added)
-                PYXTraceWrapper::addTracer(&tracer);
-        }
-
-    private:
-        std::array<RecordingTracer, 50> &m_added;
+    int calls = 0;
+    const auto change = [&](ActingTracer *self) {
+        ++calls;
+        PYXTraceWrapper::removeTracer(self);
+        for (RecordingTracer &tracer : added)
+            PYXTraceWrapper::addTracer(&tracer);
     };
-    ChangingTracer first(added);
-    ChangingTracer second(added);
-    PYXTraceWrapper::addTracer(&first);
-    PYXTraceWrapper::addTracer(&second);
+    const ActingTracer first(change);
+    const ActingTracer second(change);
     PYXTraceWrapper::staticTraceInfo(QString("x"), "f", 1);
-    QCOMPARE(first.calls.size(), 1);
-    QCOMPARE(second.calls.size(), 1);
+    QCOMPARE(calls, 2);
     QCOMPARE(PYXTraceWrapper::tracers().size(), int(added.size()));
-    for (RecordingTracer &tracer : added) {
+    for (const RecordingTracer &tracer : added)
         QVERIFY(tracer.calls.isEmpty());
-        PYXTraceWrapper::removeTracer(&tracer);
-    }
 }
 
 void tst_PYXTraceWrapper::singletonIsATracer()
 {
     QObject *const object = PYXTraceWrapper::getInstance();
-    QCOMPARE(static_cast<QObject *>(PYXTraceWrapper::getInstance()), object);
     QVERIFY(qobject_cast<Interfaces::IPYXTracer *>(object) == PYXTraceWrapper::tracer());
-    QVERIFY(qobject_cast<Interfaces::IPYXTracer2 *>(object) != nullptr);
-    QVERIFY(object->qt_metacast("PYXRuntime::PYXTraceWrapper") != nullptr);
-    QVERIFY(object->qt_metacast("Interfaces::IPYXTracer2") != nullptr);
-
+    auto *const tracer2 = qobject_cast<Interfaces::IPYXTracer2 *>(object);
+    QVERIFY(tracer2 != nullptr);
     RecordingTracer2 tracer;
     PYXTraceWrapper::addTracer(&tracer);
     PYXTraceWrapper::tracer()->traceX_Warn("t", "l", "f", 7);
-    qobject_cast<Interfaces::IPYXTracer2 *>(object)->traceDebug_Error(QStringList{"a"}, "f", 8);
-    PYXTraceWrapper::removeTracer(&tracer);
+    tracer2->traceDebug_Error(QStringList{"a"}, "f", 8);
     QCOMPARE(tracer.calls, (QStringList{"X_Warn|t/l|f|7", "Debug_Error|a|f|8"}));
 
     PYXTraceWrapper::destroyInstance();
@@ -268,27 +228,18 @@ void tst_PYXTraceWrapper::singletonIsATracer()
 
 void tst_PYXTraceWrapper::tracesFromManyThreads()
 {
-    class CountingTracer : public RecordingTracer
-    {
-    public:
-        using RecordingTracer::traceInfo;
-        void traceInfo(const QString &, const char *, ushort) override { ++count; }
-        std::atomic<int> count{0};
-    };
-    CountingTracer tracer;
-    PYXTraceWrapper::addTracer(&tracer);
-    std::vector<std::thread> threads;
-    threads.reserve(4);
-    for (int thread = 0; thread < 4; ++thread) {
-        threads.emplace_back([] {
+    std::atomic<int> count{0};
+    const ActingTracer tracer([&](ActingTracer *) { ++count; });
+    std::array<std::thread, 4> threads;
+    for (std::thread &thread : threads) {
+        thread = std::thread([] {
             for (int call = 0; call < 5000; ++call)
                 PYXTraceWrapper::staticTraceInfo(QString("x"), "f", 1);
         });
     }
     for (std::thread &thread : threads)
         thread.join();
-    PYXTraceWrapper::removeTracer(&tracer);
-    QCOMPARE(tracer.count.load(), 20'000);
+    QCOMPARE(count.load(), 20'000);
 }
 
 int main(int argc, char **argv)

@@ -10,7 +10,6 @@ class tst_PrintfLine : public QObject
 private slots:
     void consumesConversions_data();
     void consumesConversions();
-    void cutsHugeFields();
 };
 
 void tst_PrintfLine::consumesConversions_data()
@@ -36,18 +35,14 @@ void tst_PrintfLine::consumesConversions_data()
     row("percent at the end", "100%", "100%");
     row("cut off in mid-conversion", "x%-08.3l", "x%-08.3l");
     row("multi-byte text stays", "\xC3\xA9 %d \xE2\x82\xAC", "\xC3\xA9 0 \xE2\x82\xAC");
+    row("huge width is cut", "%999999999999d", QByteArray(4094, ' ') + '0');
+    row("huge precision is cut", "%.999999999999f", "0." + QByteArray(4095, '0'));
 }
 
 void tst_PrintfLine::consumesConversions()
 {
     QFETCH(QByteArray, format);
     QTEST(PYXRuntime::printfLine(format), "line");
-}
-
-void tst_PrintfLine::cutsHugeFields()
-{
-    QCOMPARE(PYXRuntime::printfLine("%999999999999d").size(), 4095);
-    QCOMPARE(PYXRuntime::printfLine("%.999999999999f").size(), 4095 + 2);
 }
 
 QTEST_APPLESS_MAIN(tst_PrintfLine)
