@@ -40,11 +40,11 @@ QStringList writtenKeys(const Map &map)
 {
     Map renamed = map;
     for (const QString &key : map.keys()) {
-        const bool bUnnamed = key.isEmpty() || key.endsWith('/');
+        const bool bUnnamed = key.isEmpty() || key.endsWith(QLatin1Char('/'));
         const auto next = map.upperBound(key);
-        const bool bGroup = next != map.end() && next.key().startsWith(key + '/');
+        const bool bGroup = next != map.end() && next.key().startsWith(key + QLatin1Char('/'));
         if (bUnnamed && !bGroup) {
-            renamed.insert(key + "unnamed", 0);
+            renamed.insert(key + QLatin1String("unnamed"), 0);
             renamed.remove(key);
         }
     }
