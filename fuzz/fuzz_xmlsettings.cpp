@@ -41,7 +41,7 @@ QStringList writtenKeys(const Map &map)
     Map renamed = map;
     for (const QString &key : map.keys()) {
         const bool bUnnamed = key.isEmpty() || key.endsWith(QLatin1Char('/'));
-        const auto next = map.upperBound(key);
+        const auto next = map.lowerBound(key + QLatin1Char('/'));
         const bool bGroup = next != map.end() && next.key().startsWith(key + QLatin1Char('/'));
         if (bUnnamed && !bGroup) {
             renamed.insert(key + QLatin1String("unnamed"), 0);
