@@ -6,6 +6,7 @@
 #include "PYXXmlSettings.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QThread>
 
 #include <cstdio>
 
@@ -15,11 +16,24 @@ namespace {
 
 constexpr int KeysPerSave = 25;
 constexpr int KeysOfGeneration = 100;
+constexpr int MostAttempts = 1000;
+constexpr int AttemptPauseMs = 5;
 
+/**
+ * Where systems lock open files, another process may get in the way of a save: the change stays and goes with
+ * a later one. A fresh object on the store tells how that went, since a status stays what it once was.
+ */
 bool isSaved(PYXSettings &settings)
 {
     settings.sync();
-    return settings.status() == QSettings::NoError;
+    bool bSaved = settings.status() == QSettings::NoError;
+    for (int attempt = 0; !bSaved && attempt < MostAttempts; ++attempt) {
+        QThread::msleep(AttemptPauseMs);
+        PYXSettings again(settings.fileName(), settings.format());
+        again.sync();
+        bSaved = again.status() == QSettings::NoError;
+    }
+    return bSaved;
 }
 
 bool writeMany(PYXSettings &settings, const QString &prefix, int count)
