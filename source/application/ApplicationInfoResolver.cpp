@@ -34,7 +34,7 @@ QString subPath(SpecialDirTable::eNames names)
 QString temporaryFiles()
 {
     for (const char *variable : {"TEMP", "TMP"}) {
-        const QString path = PYXApplicationInfoImpl::getDirFromEnv(QLatin1String(variable));
+        QString path = PYXApplicationInfoImpl::getDirFromEnv(QLatin1String(variable));
         if (!path.isEmpty())
             return path;
     }

@@ -45,7 +45,7 @@ QString joined(std::initializer_list<QString> parts)
 
 QString aboveBin(const QString &directory)
 {
-    const QString path = QDir::cleanPath(directory);
+    QString path = QDir::cleanPath(directory);
     const int separator = path.lastIndexOf(Separator);
     if (path.mid(separator + 1).compare(QLatin1String("bin"), Qt::CaseInsensitive) != 0 || separator < 0)
         return path;

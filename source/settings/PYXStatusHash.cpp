@@ -169,7 +169,8 @@ QByteArray PYXStatusHash::serialize() const
 
 bool PYXStatusHash::restoreFrom(const QByteArray &bytes)
 {
-    const QByteArray input = bytes; // may be a reference to what clear() empties
+    // May be a reference to what clear() empties.
+    const QByteArray input = bytes; // NOLINT(performance-unnecessary-copy-initialization)
     m_cache.clear();
     m_entries.clear();
     m_bDirty = false;
