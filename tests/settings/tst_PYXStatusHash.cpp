@@ -95,7 +95,7 @@ class Traces : public RecordingTracer
 {
 public:
     Traces() { PYXTraceWrapper::addTracer(this); }
-    ~Traces() { PYXTraceWrapper::removeTracer(this); }
+    ~Traces() override { PYXTraceWrapper::removeTracer(this); }
 };
 
 /** No lines of the library's scope while it lives. */
