@@ -52,6 +52,11 @@ void DetectionDock::_createTable()
                           m_table->fontMetrics().horizontalAdvance(QStringLiteral("-00000.000 kHz")));
 }
 
+const QAbstractItemModel &DetectionDock::table() const
+{
+    return *m_sortedModel;
+}
+
 void DetectionDock::setDetections(const std::vector<struDetection> &detections)
 {
     m_model->setDetections(detections);

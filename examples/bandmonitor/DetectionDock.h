@@ -8,6 +8,7 @@
 
 #include <vector>
 
+class QAbstractItemModel;
 class QSortFilterProxyModel;
 class QTableView;
 
@@ -22,6 +23,8 @@ class DetectionDock final : public QDockWidget
 public:
     explicit DetectionDock(QWidget *parent = nullptr);
 
+    /** As it is sorted now. */
+    const QAbstractItemModel &table() const;
     void setDetections(const std::vector<struDetection> &detections);
 
 Q_SIGNALS:

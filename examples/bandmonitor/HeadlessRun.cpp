@@ -4,53 +4,19 @@
 
 #include "DetectionModel.h"
 #include "SignalMonitor.h"
+#include "TableText.h"
 #include "Units.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QStringList>
 
 #include <algorithm>
 #include <vector>
 
 namespace BandMonitor {
-namespace {
-
-const QLatin1String ColumnGap("   ");
-
-/** The texts of the table, headings first. */
-std::vector<QStringList> tableOf(const QAbstractItemModel &model)
-{
-    std::vector<QStringList> rows(1);
-    for (int column = 0; column < model.columnCount(); ++column)
-        rows.front() += model.headerData(column, Qt::Horizontal).toString();
-    for (int row = 0; row < model.rowCount(); ++row) {
-        rows.emplace_back();
-        for (int column = 0; column < model.columnCount(); ++column)
-            rows.back() += model.index(row, column).data().toString();
-    }
-    return rows;
-}
-
-QString aligned(const std::vector<QStringList> &rows)
-{
-    QString text;
-    for (const QStringList &row : rows) {
-        for (int column = 0; column < row.size(); ++column) {
-            int width = 0;
-            for (const QStringList &other : rows)
-                width = std::max(width, other.at(column).size());
-            text += (column == 0 ? QString() : ColumnGap) + row.at(column).rightJustified(width);
-        }
-        text += QLatin1Char('\n');
-    }
-    return text;
-}
-
-} // namespace
-
-QString detectionReport(std::unique_ptr<SampleSource> source)
+QString detectionReport(std::unique_ptr<SampleSource> source, const struDetectorParameters &parameters)
 {
     SignalMonitor monitor(std::move(source));
+    monitor.setDetectorParameters(parameters);
     while (monitor.advance(1) && (monitor.source().duration() > 0 || monitor.time() < UnattendedTime))
         continue;
 
@@ -64,7 +30,7 @@ QString detectionReport(std::unique_ptr<SampleSource> source)
         QCoreApplication::translate("BandMonitor::HeadlessRun", "%1 (%2, %3), signals: %4")
             .arg(played.name(), sourceText(played), timeText(monitor.time()),
                  QString::number(detections.size()));
-    return heading + QLatin1Char('\n') + aligned(tableOf(model));
+    return heading + QLatin1Char('\n') + alignedText(model);
 }
 
 } // namespace BandMonitor

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "DetectorParameters.h"
 #include "SampleSource.h"
 
 #include <QtCore/QString>
@@ -14,6 +15,6 @@ namespace BandMonitor {
 constexpr double UnattendedTime = 20;
 
 /** Processes the whole source as fast as it goes. @return the detected signals as a table of text. */
-QString detectionReport(std::unique_ptr<SampleSource> source);
+QString detectionReport(std::unique_ptr<SampleSource> source, const struDetectorParameters &parameters = {});
 
 } // namespace BandMonitor

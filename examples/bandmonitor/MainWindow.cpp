@@ -2,27 +2,32 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "MainWindow.h"
 
+#include "AboutBox.h"
 #include "BandGenerator.h"
 #include "Colours.h"
 #include "DetectionDock.h"
+#include "DetectorDialog.h"
 #include "HeadlessRun.h"
 #include "LogDock.h"
+#include "RecentRecordings.h"
 #include "SignalMonitor.h"
 #include "SpectrumView.h"
 #include "SymbolIcon.h"
+#include "TableText.h"
 #include "Units.h"
 #include "WaterfallView.h"
 #include "WavReader.h"
 
+#include <PYXFileFilter.h>
+#include <PYXSettings.h>
 #include <PYXTraceWrapper.h>
 
-#include <QtCore/QSettings>
+#include <QtCore/QSaveFile>
 #include <QtGui/QCloseEvent>
 #include <QtGui/QShowEvent>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
-#include <QtWidgets/QFileDialog>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QMessageBox>
@@ -34,6 +39,10 @@
 #include <algorithm>
 #include <cmath>
 
+using PYXRuntime::PYXFileFilter;
+using PYXRuntime::PYXSettings;
+using PYXRuntime::PYXTraceWrapper;
+
 namespace BandMonitor {
 namespace {
 
@@ -42,6 +51,9 @@ const char TraceFile[] = "bandmonitor\\MainWindow";
 const QLatin1String GeometryKey("MainWindow/Geometry");
 const QLatin1String StateKey("MainWindow/State");
 const QLatin1String DarkKey("MainWindow/DarkColours");
+
+const QLatin1String RecordingsFilter("Recordings");
+const QLatin1String TablesFilter("Tables");
 
 constexpr int TickInterval = 40; // in ms
 // A tick that takes longer would make the window sluggish: the recording is played slower then.
@@ -56,6 +68,17 @@ constexpr double DockShare = 0.27;
 constexpr double RangeBelowFloor = 10; // in dB
 constexpr double RangeStep = 10;       // in dB
 
+/** Reports a failure in the log and to the user, without waiting for an answer. */
+void complain(QWidget *parent, const QString &text, const QString &reason, quint16 line)
+{
+    PYXTraceWrapper::staticTraceError(reason, TraceFile, line);
+    auto *const box =
+        new QMessageBox(QMessageBox::Warning, QApplication::applicationName(), text, QMessageBox::Ok, parent);
+    box->setInformativeText(reason);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->open();
+}
+
 } // namespace
 
 MainWindow::MainWindow(QWidget *parent)
@@ -67,6 +90,7 @@ MainWindow::MainWindow(QWidget *parent)
     _createDocks();
     _createActions();
     _createViewMenu();
+    _createHelpMenu();
     _createStatusBar();
     resize(1280, 800);
     m_playTimer.setInterval(TickInterval);
@@ -86,21 +110,22 @@ void MainWindow::showEvent(QShowEvent *event)
     resizeDocks(docks, {int(height() * DockShare), int(height() * DockShare)}, Qt::Vertical);
 }
 
-void MainWindow::restoreLayout()
+void MainWindow::restoreSettings()
 {
-    const QSettings settings;
-    restoreGeometry(settings.value(GeometryKey).toByteArray());
-    m_bArranged = restoreState(settings.value(StateKey).toByteArray());
-    setDark(settings.value(DarkKey, false).toBool());
-    m_bKeepLayout = true;
+    const PYXSettings settings(PYXSettings::eUserApplicationSettings);
+    restoreGeometry(settings.byteArrayValue(GeometryKey));
+    m_bArranged = restoreState(settings.byteArrayValue(StateKey));
+    setDark(settings.boolValue(DarkKey));
+    m_detectorParameters = struDetectorParameters::restored();
+    m_bKeepSettings = true;
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)
 {
     QMainWindow::closeEvent(event);
-    if (!m_bKeepLayout)
+    if (!m_bKeepSettings)
         return;
-    QSettings settings;
+    PYXSettings settings(PYXSettings::eUserApplicationSettings);
     settings.setValue(GeometryKey, saveGeometry());
     settings.setValue(StateKey, saveState());
     settings.setValue(DarkKey, m_darkAction->isChecked());
@@ -145,11 +170,12 @@ void MainWindow::_createActions()
     m_speedBox->setToolTip(tr("Speed"));
     m_speedBox->setAccessibleName(tr("Speed"));
 
-    QMenu *const fileMenu = menuBar()->addMenu(tr("&File"));
-    fileMenu->addActions({openAction, bandAction});
-    fileMenu->addSeparator();
-    fileMenu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence::Quit);
-    menuBar()->addMenu(tr("&Play"))->addAction(m_playAction);
+    _createFileMenu({openAction, bandAction});
+    QMenu *const playMenu = menuBar()->addMenu(tr("&Play"));
+    playMenu->addAction(m_playAction);
+    playMenu->addSeparator();
+    playMenu->addAction(tr("&Detector..."), this, &MainWindow::_sl_detectorAction_triggered)
+        ->setObjectName(QStringLiteral("detectorAction"));
 
     QToolBar *const toolBar = addToolBar(tr("Playing"));
     toolBar->setObjectName(QStringLiteral("playToolBar"));
@@ -158,6 +184,33 @@ void MainWindow::_createActions()
     toolBar->setIconSize({18, 18});
     toolBar->addActions({openAction, bandAction, m_playAction});
     toolBar->addWidget(m_speedBox);
+}
+
+void MainWindow::_createFileMenu(const QList<QAction *> &sourceActions)
+{
+    PYXFileFilter::registerFilter(RecordingsFilter, tr("Recordings"), {QStringLiteral("*.wav")});
+    PYXFileFilter::registerFilter(TablesFilter, tr("Comma-separated tables"), {QStringLiteral("*.csv")});
+    auto *const recentMenu = new RecentRecordings(this);
+    connect(recentMenu, &RecentRecordings::si_chosen, this, &MainWindow::openRecording);
+
+    QMenu *const fileMenu = menuBar()->addMenu(tr("&File"));
+    fileMenu->addActions(sourceActions);
+    fileMenu->insertMenu(sourceActions.last(), recentMenu);
+    fileMenu->addSeparator();
+    fileMenu
+        ->addAction(tr("&Save Signals..."), this, &MainWindow::_sl_saveAction_triggered, QKeySequence::Save)
+        ->setObjectName(QStringLiteral("saveAction"));
+    fileMenu->addSeparator();
+    fileMenu->addAction(tr("&Quit"), this, &QWidget::close, QKeySequence::Quit);
+}
+
+void MainWindow::_createHelpMenu()
+{
+    menuBar()
+        ->addMenu(tr("&Help"))
+        ->addAction(tr("&About %1").arg(QApplication::applicationName()), this,
+                    [this] { showAboutBox(this); })
+        ->setObjectName(QStringLiteral("aboutAction"));
 }
 
 void MainWindow::_createViewMenu()
@@ -195,15 +248,12 @@ bool MainWindow::openRecording(const QString &path)
     QString error;
     std::unique_ptr<SampleSource> recording = WavReader::open(path, &error);
     if (!recording) {
-        PYXRuntime::PYXTraceWrapper::staticTraceError(error, TraceFile, __LINE__);
-        auto *const box = new QMessageBox(QMessageBox::Warning, QApplication::applicationName(),
-                                          tr("This recording cannot be opened."), QMessageBox::Ok, this);
-        box->setInformativeText(error);
-        box->setAttribute(Qt::WA_DeleteOnClose);
-        box->open();
+        complain(this, tr("This recording cannot be opened."), error, __LINE__);
         return false;
     }
     m_path = path;
+    if (m_bKeepSettings)
+        RecentRecordings::add(path);
     _setSource(std::move(recording));
     return true;
 }
@@ -225,6 +275,7 @@ void MainWindow::_restart()
 void MainWindow::_setSource(std::unique_ptr<SampleSource> source)
 {
     m_monitor = std::make_unique<SignalMonitor>(std::move(source));
+    m_monitor->setDetectorParameters(m_detectorParameters);
     connect(m_monitor.get(), &SignalMonitor::si_spectrum, this, &MainWindow::_showSpectrum);
     const SampleSource &opened = m_monitor->source();
     m_axis->setBand(opened.isComplex() ? -opened.sampleRate() / 2 : 0, opened.sampleRate() / 2);
@@ -232,8 +283,8 @@ void MainWindow::_setSource(std::unique_ptr<SampleSource> source)
     m_spectrumView->clear();
     m_waterfallView->clear();
     m_detectionDock->setDetections({});
-    PYXRuntime::PYXTraceWrapper::staticTraceInfo(tr("%1: %2").arg(opened.name(), sourceText(opened)),
-                                                 TraceFile, __LINE__);
+    PYXTraceWrapper::staticTraceInfo(tr("%1: %2").arg(opened.name(), sourceText(opened)), TraceFile,
+                                     __LINE__);
     m_sourceLabel->setText(opened.name() + QStringLiteral("   ") + sourceText(opened));
     setWindowTitle(opened.name() + QLatin1String(" - ") + QApplication::applicationName());
     setPlaying(true);
@@ -267,10 +318,35 @@ void MainWindow::playToEnd()
 
 void MainWindow::_sl_openAction_triggered()
 {
-    const QString path = QFileDialog::getOpenFileName(this, tr("Open Recording"), m_path,
-                                                      tr("Recordings (*.wav);;All files (*)"));
+    const PYXFileFilter filter(QStringLiteral("OpenRecording"), {RecordingsFilter});
+    const QString path = filter.getOpenFileName(this, tr("Open Recording"));
     if (!path.isEmpty())
         openRecording(path);
+}
+
+void MainWindow::_sl_saveAction_triggered()
+{
+    const PYXFileFilter filter(QStringLiteral("SaveSignals"), {TablesFilter});
+    const QString path = filter.getSaveFileName(this, tr("Save Signals"));
+    if (path.isEmpty())
+        return;
+    QSaveFile file(path);
+    const QByteArray table = csvText(m_detectionDock->table()).toUtf8();
+    if (!file.open(QIODevice::WriteOnly) || file.write(table) != table.size() || !file.commit())
+        complain(this, tr("The signals cannot be saved."), path + QLatin1String(": ") + file.errorString(),
+                 __LINE__);
+}
+
+void MainWindow::_sl_detectorAction_triggered()
+{
+    DetectorDialog dialog(this);
+    dialog.setParameters(m_detectorParameters);
+    if (dialog.exec() != QDialog::Accepted || dialog.parameters() == m_detectorParameters)
+        return;
+    m_detectorParameters = dialog.parameters();
+    m_monitor->setDetectorParameters(m_detectorParameters);
+    if (m_bKeepSettings)
+        m_detectorParameters.save();
 }
 
 void MainWindow::_sl_playTimer_timeout()

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "ColourMap.h"
+#include "DetectorParameters.h"
 #include "SampleSource.h"
 #include "Spectrum.h"
 
@@ -19,6 +20,7 @@ namespace BandMonitor {
 
 class DetectionDock;
 class FrequencyAxis;
+class RecentRecordings;
 class SignalMonitor;
 class SpectrumView;
 class WaterfallView;
@@ -31,8 +33,8 @@ public:
     explicit MainWindow(QWidget *parent = nullptr);
     ~MainWindow() override;
 
-    /** Looks as it did when it was closed last, and remembers how it looks when it is closed. */
-    void restoreLayout();
+    /** Looks and detects as it did when it was closed last, and remembers that when it is closed. */
+    void restoreSettings();
     /** Shows a message and goes on with what is played already where the file is no recording. */
     bool openRecording(const QString &path);
     void openOwnBand();
@@ -51,7 +53,9 @@ private:
     void _createViews();
     void _createDocks();
     void _createActions();
+    void _createFileMenu(const QList<QAction *> &sourceActions);
     void _createViewMenu();
+    void _createHelpMenu();
     void _createStatusBar();
     void _setSource(std::unique_ptr<SampleSource> source);
     void _restart();
@@ -59,6 +63,8 @@ private:
     void _showDetections();
     void _showState();
     void _sl_openAction_triggered();
+    void _sl_saveAction_triggered();
+    void _sl_detectorAction_triggered();
     void _sl_playTimer_timeout();
 
     std::unique_ptr<SignalMonitor> m_monitor;
@@ -66,7 +72,8 @@ private:
     QTimer m_playTimer;
     QElapsedTimer m_sinceTick;
     bool m_bArranged = false; ///< whether the docks have got their first sizes
-    bool m_bKeepLayout = false;
+    bool m_bKeepSettings = false;
+    struDetectorParameters m_detectorParameters;
     struLevelRange m_levelRange;
 
     FrequencyAxis *m_axis = nullptr;

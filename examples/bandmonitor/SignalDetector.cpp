@@ -3,16 +3,15 @@
 #include "SignalDetector.h"
 
 #include <algorithm>
+#include <cmath>
 #include <iterator>
 #include <numeric>
 
 namespace BandMonitor {
 namespace {
 
-// A signal stands out by 10 dB, and no longer does below 7 dB. It is never weaker than -120 dBFS, which
-// is below the last bit of a 16 bit recording, nor than what the window leaks of the strongest signal.
-constexpr double ThresholdOverFloor = 10.0;
-constexpr double Hysteresis = 0.5; // 3 dB
+// A signal is never weaker than -120 dBFS, which is below the last bit of a 16 bit recording, nor than
+// what the window leaks of the strongest signal.
 constexpr double LowestThreshold = 1e-12;
 constexpr double ThresholdBelowPeak = 3e-9; // 85 dB
 
@@ -23,8 +22,6 @@ constexpr float OccupiedAbove = 0.5F;
 constexpr float FreeBelow = 0.1F;
 constexpr float UnknownBelow = 0.05F;
 
-// Free bins between occupied ones that still make one signal: the lines of a voice are that far apart.
-constexpr int LargestGap = 16;
 // The outermost lines of a modulated signal come and go; they are not far out for a wide one.
 constexpr double LargestGapShare = 0.25;
 // The window spreads a carrier over so many bins to either side.
@@ -36,6 +33,12 @@ constexpr double SmallestMeanWeight = 0.06;
 constexpr int LongestFragment = 8; // in spectra on air
 // A band with more signals than this is noise of a kind that we do not understand.
 constexpr std::size_t MaximumTracks = 500;
+
+/** The ratio of powers that is so many dB. */
+double ratioOf(double decibels)
+{
+    return std::pow(10, decibels / 10);
+}
 
 } // namespace
 
@@ -72,16 +75,18 @@ void SignalDetector::_estimateNoise(const struSpectrum &spectrum)
     std::nth_element(sorted.begin(), quarter, sorted.end());
     m_floor = double(*quarter);
     const double peak = double(*std::max_element(quarter, sorted.end()));
-    m_threshold = std::max({m_floor * ThresholdOverFloor, peak * ThresholdBelowPeak, LowestThreshold});
+    m_threshold =
+        std::max({m_floor * ratioOf(m_parameters.threshold), peak * ThresholdBelowPeak, LowestThreshold});
 }
 
 void SignalDetector::_updateBins(const struSpectrum &spectrum)
 {
+    const double releaseThreshold = m_threshold / ratioOf(m_parameters.hysteresis);
     for (std::size_t i = 0; i < m_bins.size(); ++i) {
         struBin &bin = m_bins[i];
         const double power = double(spectrum.power[i]);
         bin.bStandsOut = power > m_threshold;
-        const bool bPresent = bin.bOccupied ? power > m_threshold * Hysteresis : bin.bStandsOut;
+        const bool bPresent = bin.bOccupied ? power > releaseThreshold : bin.bStandsOut;
         if (bPresent && bin.presence < UnknownBelow)
             bin.since = spectrum.time;
         bin.presence += PresenceWeight * ((bPresent ? 1.0F : 0.0F) - bin.presence);
@@ -95,7 +100,7 @@ std::vector<SignalDetector::struRegion> SignalDetector::_occupiedRegions() const
     for (int i = 0; i < int(m_bins.size()); ++i) {
         if (!m_bins[std::size_t(i)].bOccupied)
             continue;
-        if (regions.empty() || i - regions.back().last > LargestGap + 1)
+        if (regions.empty() || i - regions.back().last > m_parameters.largestGap + 1)
             regions.push_back({i, i});
         regions.back().last = i;
     }
@@ -112,7 +117,7 @@ SignalDetector::struTrack &SignalDetector::_trackFor(const struRegion &region)
         const double gap =
             std::max(track.first, double(region.first)) - std::min(track.last, double(region.last));
         const double width = track.last - track.first;
-        if (gap > std::max(width * LargestGapShare, double(LargestGap)))
+        if (gap > std::max(width * LargestGapShare, double(m_parameters.largestGap)))
             continue;
         // Where a wide signal was over a narrow one, the narrow one keeps its place.
         const bool bNarrower = best != nullptr && gap <= bestGap && width < best->last - best->first;

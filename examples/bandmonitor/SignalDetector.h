@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
+#include "DetectorParameters.h"
 #include "Spectrum.h"
 
 #include <cstddef>
@@ -30,6 +31,9 @@ struct struDetection
 class SignalDetector
 {
 public:
+    /** From the next spectrum on. */
+    void setParameters(const struDetectorParameters &parameters) { m_parameters = parameters; }
+
     void process(const struSpectrum &spectrum);
 
     /** In the order in which the signals were found. */
@@ -80,6 +84,7 @@ private:
     bool _standsOut(const struRegion &region) const;
     double _beginOf(const struRegion &region) const;
 
+    struDetectorParameters m_parameters;
     double m_floor = 0;
     double m_threshold = 0;
     std::vector<struBin> m_bins;

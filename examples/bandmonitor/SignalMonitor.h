@@ -25,6 +25,11 @@ public:
     /** How far the source has been read, in seconds. */
     double time() const;
     bool isAtEnd() const { return m_bAtEnd; }
+    /** From the next spectrum on. */
+    void setDetectorParameters(const struDetectorParameters &parameters)
+    {
+        m_detector.setParameters(parameters);
+    }
 
     /** Processes the next stretch of so many seconds. @return false at the end of the source. */
     bool advance(double seconds);

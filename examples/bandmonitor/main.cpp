@@ -5,6 +5,8 @@
 #include "MainWindow.h"
 #include "WavReader.h"
 
+#include <PYXApplicationInfoImpl.h>
+#include <PYXBroker.h>
 #include <PYXRuntime.h>
 #include <PYXRuntimeCenter.h>
 
@@ -24,6 +26,7 @@ const QLatin1String HeadlessOption("headless");
 const QLatin1String ScreenshotOption("screenshot");
 const QLatin1String SizeOption("size");
 const QLatin1String DarkOption("dark");
+const QLatin1String PortableOption("portable");
 
 QString tr(const char *text)
 {
@@ -56,6 +59,21 @@ void setUp(QCommandLineParser &parser)
         {ScreenshotOption, tr("Process everything, save a picture of the window, and end."), tr("FILE")});
     parser.addOption({SizeOption, tr("Size of the window."), tr("WIDTHxHEIGHT")});
     parser.addOption({DarkOption, tr("Use dark colours.")});
+    parser.addOption(
+        {PortableOption, tr("Keep settings beside the program, not in the user's directories.")});
+}
+
+/** Decides where the settings are: before the first of them are read. */
+void prepareSettings(bool bPortable)
+{
+    using namespace PYXRuntime;
+    QObject *const object =
+        PYXBroker::getInstance()->topObject(PYXBrokerInterface<PYXIApplicationInfo>::id(), 0);
+    auto *const info = qobject_cast<PYXApplicationInfoImpl *>(object);
+    if (info == nullptr)
+        return;
+    info->setPortable(bPortable);
+    info->ensureInitialized();
 }
 
 int runHeadless(const QString &path)
@@ -73,7 +91,7 @@ int runHeadless(const QString &path)
         print(stderr, QLatin1String("bandmonitor: ") + error + QLatin1Char('\n'));
         return 1;
     }
-    print(stdout, detectionReport(std::move(source)));
+    print(stdout, detectionReport(std::move(source), struDetectorParameters::restored()));
     return 0;
 }
 
@@ -92,7 +110,7 @@ int runWindow(const QCommandLineParser &parser, const QString &path)
 {
     MainWindow window;
     if (!parser.isSet(ScreenshotOption))
-        window.restoreLayout();
+        window.restoreSettings();
     const QStringList size = parser.value(SizeOption).split(QLatin1Char('x'));
     if (size.size() == 2)
         window.resize(size.at(0).toInt(), size.at(1).toInt());
@@ -118,6 +136,7 @@ int run(bool bHeadless)
 
     PYXRuntime::initialize_PYXRuntime(bHeadless ? PYXRuntime::ekInitialize_NoFonts
                                                 : PYXRuntime::ekInitialize_Default);
+    prepareSettings(parser.isSet(PortableOption));
     const int result = bHeadless ? runHeadless(path) : runWindow(parser, path);
     PYXRuntime::uninitialize_PYXRuntime();
     return result;

@@ -16,10 +16,11 @@ namespace PYXRuntime {
  * wants some paths otherwise derives from it, overrides getSpecialDirPath() and registers its object on top.
  * A path that is below another one is asked for through that operation, so what is below moves along.
  *
- * A program is portable when it lies on a removable drive, or when a file named "portable" lies in
- * eApplicationBaseDir. Its user's and common folders are then in a tree of folders that travels with it:
+ * A program is portable when it lies on a removable drive, when a file named "portable" lies in
+ * eApplicationBaseDir, or when it asks for it (setPortable()). Its user's and common folders are then in a
+ * tree of folders that travels with it:
  *  - where there are drive letters, "/portable" on the current drive;
- *  - elsewhere "portable" in the root of the removable drive, or beside the program that is only marked;
+ *  - elsewhere "portable" in the root of the removable drive, or beside another program;
  *  - in the compatibility mode "portable" in eApplicationBaseDir; the common folders stay the system's.
  * Where "portable" is the marking file itself, the tree is in "portable-data".
  *
@@ -57,6 +58,12 @@ public:
     /** Whether a portable program has its folders where programs of old have them. Default: false. */
     bool specialDirCompatibilityMode() const;
     void setSpecialDirCompatibilityMode(bool compatible);
+    /**
+     * Whether the program is portable wherever it lies, as with a switch on its command line. Default: false.
+     * isRunningFromPortableDevice() tells whether it is portable for any reason.
+     */
+    bool isPortable() const;
+    void setPortable(bool portable);
 
     bool isRunningFromPortableDevice() const override;
     QString modifyPathForPortableDevice(const QString &path) override;
@@ -124,6 +131,7 @@ private:
     QString m_driveRoot;
     QString m_portablePlace; ///< what "/portable" is appended to
     bool m_bSpecialDirCompatibilityMode = false;
+    bool m_bPortable = false;
     bool m_bInitializeSettingsPaths = false;
     bool m_bInitializeSettingsPathsSet = false;
     QSettings::Format m_preparedFormat = QSettings::InvalidFormat;

@@ -119,8 +119,8 @@ void PYXApplicationInfoImpl::_locateProgram()
     }
     const bool bOnRemovableDrive =
         Platform::isOnRemovableDrive(m_driveRoot.isEmpty() ? m_baseDir : m_driveRoot);
-    m_bRemovableDrive =
-        bOnRemovableDrive || QFileInfo(ProgramPaths::joined({m_baseDir, QLatin1String(MarkerFile)})).isFile();
+    m_bRemovableDrive = bOnRemovableDrive || m_bPortable ||
+                        QFileInfo(ProgramPaths::joined({m_baseDir, QLatin1String(MarkerFile)})).isFile();
     if (m_bRemovableDrive && m_driveRoot.isEmpty())
         m_portablePlace =
             ProgramPaths::withoutSeparator(bOnRemovableDrive ? Platform::mountPoint(m_baseDir) : m_baseDir);
@@ -175,6 +175,19 @@ void PYXApplicationInfoImpl::setSpecialDirCompatibilityMode(bool compatible)
     if (m_bSpecialDirCompatibilityMode == compatible)
         return;
     m_bSpecialDirCompatibilityMode = compatible;
+    m_bNeedsInitialize = true;
+}
+
+bool PYXApplicationInfoImpl::isPortable() const
+{
+    return m_bPortable;
+}
+
+void PYXApplicationInfoImpl::setPortable(bool portable)
+{
+    if (m_bPortable == portable)
+        return;
+    m_bPortable = portable;
     m_bNeedsInitialize = true;
 }
 

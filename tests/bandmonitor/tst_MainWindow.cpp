@@ -3,20 +3,25 @@
 #include "MainWindow.h"
 
 #include "DetectionModel.h"
+#include "DetectorDialog.h"
 #include "LogDock.h"
+#include "RecentRecordings.h"
 #include "SignalMonitor.h"
 
+#include "SettingsHome.h"
 #include "WavBytes.h"
 
 #include <PYXTraceWrapper.h>
 
 #include <QtCore/QLocale>
-#include <QtCore/QSettings>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 #include <QtWidgets/QAction>
+#include <QtWidgets/QFileDialog>
+#include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPlainTextEdit>
+#include <QtWidgets/QSpinBox>
 #include <QtWidgets/QTableView>
 
 #include <cmath>
@@ -43,6 +48,11 @@ QString logOf(const QWidget &parent)
     return parent.findChild<QPlainTextEdit *>("logView")->toPlainText();
 }
 
+const QAbstractItemModel &tableOf(const QWidget &parent)
+{
+    return *parent.findChild<QTableView *>("detectionTable")->model();
+}
+
 } // namespace
 
 class tst_MainWindow : public QObject
@@ -59,7 +69,11 @@ private Q_SLOTS:
     void showsWhatIsInARecording();
     void playsInTime();
     void complainsAboutWhatIsNoRecording();
-    void looksAsItDidWhenItWasClosed();
+    void goesOnAsItWasClosed();
+    void keepsTheNewestRecordings();
+    void refusesOddDetectorParameters();
+    void tellsWhereItsSettingsAre();
+    void savesTheSignals();
     void logsTracesOfOtherThreads();
     void keepsTheLogBounded();
     void keepsRowsOfKnownSignals();
@@ -117,28 +131,106 @@ void tst_MainWindow::complainsAboutWhatIsNoRecording()
     QCOMPARE(window.monitor(), before);
 }
 
-void tst_MainWindow::looksAsItDidWhenItWasClosed()
+void tst_MainWindow::goesOnAsItWasClosed()
 {
-    QCoreApplication::setOrganizationName("tst_MainWindow");
-    QSettings::setDefaultFormat(QSettings::IniFormat);
-    QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, m_directory.path());
+    const SettingsHome home;
     const auto isDark = [] { return QApplication::palette().color(QPalette::Base).lightness() < 128; };
     {
         MainWindow window;
-        window.restoreLayout();
+        window.restoreSettings();
         QVERIFY(!isDark());
         window.resize(700, 500);
         window.setDark(true);
         window.findChild<LogDock *>()->hide();
+        QVERIFY(window.openRecording(m_path));
+        QTimer::singleShot(0, &window, [&window] {
+            auto *const dialog = window.findChild<DetectorDialog *>();
+            dialog->findChild<QSpinBox *>("gapBox")->setValue(struDetectorParameters::WidestGap);
+            dialog->accept();
+        });
+        window.findChild<QAction *>("detectorAction")->trigger();
+        window.playToEnd();
+        QCOMPARE(tableOf(window).rowCount(), 1); // two tones are no longer two signals
         window.close();
         window.setDark(false);
     }
     MainWindow window;
-    window.restoreLayout();
+    window.restoreSettings();
     QVERIFY(isDark());
     QCOMPARE(window.size(), QSize(700, 500));
     QVERIFY(window.findChild<LogDock *>()->isHidden());
     window.setDark(false);
+
+    auto *const recent = window.findChild<RecentRecordings *>();
+    Q_EMIT recent->aboutToShow();
+    QVERIFY(recent->actions().constFirst()->text().contains("tones.wav"));
+    recent->actions().constFirst()->trigger();
+    window.playToEnd();
+    QCOMPARE(tableOf(window).rowCount(), 1);
+}
+
+void tst_MainWindow::keepsTheNewestRecordings()
+{
+    const SettingsHome home;
+    for (int i = 0; i < 2 * RecentRecordings::MaximumCount; ++i)
+        RecentRecordings::add(QString("/tmp/%1 & more.wav").arg(i));
+    RecentRecordings::add("/tmp/12 & more.wav");
+    QCOMPARE(RecentRecordings::paths().size(), RecentRecordings::MaximumCount);
+    QCOMPARE(RecentRecordings::paths().mid(0, 3),
+             QList<QString>({"/tmp/12 & more.wav", "/tmp/15 & more.wav", "/tmp/14 & more.wav"}));
+    RecentRecordings menu;
+    QCOMPARE(menu.actions().constFirst()->text(), "&1  12 && more.wav");
+    QVERIFY(!menu.actions().constFirst()->isEnabled()); // the file is gone
+    menu.actions().constLast()->trigger();
+    QVERIFY(RecentRecordings::paths().isEmpty());
+}
+
+void tst_MainWindow::refusesOddDetectorParameters()
+{
+    const struDetectorParameters usual;
+    const auto restored = [](quint32 magic, const QVariant &threshold, const QVariant &gap) {
+        PYXRuntime::PYXStatusHash hash(magic);
+        hash.insert("Threshold", threshold);
+        hash.insert("LargestGap", gap);
+        return struDetectorParameters::fromStatusHash(hash);
+    };
+    const quint32 ours = usual.toStatusHash().magicNumber();
+    QVERIFY(restored(ours + 1, 20, 20) == usual);
+    QVERIFY(restored(ours, "loud", qQNaN()) == usual);
+    const struDetectorParameters clamped = restored(ours, -5, 1e12);
+    QCOMPARE(clamped.threshold, struDetectorParameters::SmallestThreshold);
+    QCOMPARE(clamped.hysteresis, clamped.threshold);
+    QCOMPARE(clamped.largestGap, struDetectorParameters::WidestGap);
+}
+
+void tst_MainWindow::tellsWhereItsSettingsAre()
+{
+    const SettingsHome home;
+    MainWindow window;
+    window.findChild<QAction *>("aboutAction")->trigger();
+    const auto *const box = window.findChild<QMessageBox *>("aboutBox");
+    QVERIFY(box != nullptr);
+    QVERIFY(box->informativeText().contains(QDir::toNativeSeparators(home.path("user"))));
+}
+
+void tst_MainWindow::savesTheSignals()
+{
+    QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+    const SettingsHome home;
+    MainWindow window;
+    QVERIFY(window.openRecording(m_path));
+    window.playToEnd();
+    QTimer::singleShot(0, &window, [&window, &home] {
+        auto *const dialog = window.findChild<QFileDialog *>();
+        dialog->findChild<QLineEdit *>("fileNameEdit")->setText(home.path("signals"));
+        static_cast<QDialog *>(dialog)->accept();
+    });
+    window.findChild<QAction *>("saveAction")->trigger();
+    QFile saved(home.path("signals.csv"));
+    QVERIFY(saved.open(QIODevice::ReadOnly));
+    const QByteArrayList lines = saved.readAll().split('\n');
+    QCOMPARE(lines.size(), 4); // headings, two signals, nothing after the last end of line
+    QVERIFY(lines.at(1).startsWith("1.000 kHz,"));
 }
 
 void tst_MainWindow::logsTracesOfOtherThreads()

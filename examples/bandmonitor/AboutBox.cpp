@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The PYXRuntime developers
+// SPDX-License-Identifier: BSD-3-Clause
+#include "AboutBox.h"
+
+#include <PYXBroker.h>
+#include <PYXIApplicationInfo.h>
+#include <PYXSettings.h>
+
+#include <QtCore/QCoreApplication>
+#include <QtCore/QDir>
+#include <QtWidgets/QMessageBox>
+
+using namespace PYXRuntime;
+
+namespace BandMonitor {
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("BandMonitor::AboutBox", text);
+}
+
+} // namespace
+
+void showAboutBox(QWidget *parent)
+{
+    auto *const info = PYXBroker::getInstance()->topObject<PYXIApplicationInfo>();
+    const bool bPortable = info != nullptr && info->isRunningFromPortableDevice();
+    const QString settings =
+        QDir::toNativeSeparators(PYXSettings(PYXSettings::eUserApplicationSettings).fileName());
+
+    auto *const box = new QMessageBox(
+        QMessageBox::NoIcon, tr("About %1").arg(QCoreApplication::applicationName()),
+        tr("Shows the signals in a recording, or in a band of its own."), QMessageBox::Ok, parent);
+    box->setObjectName(QStringLiteral("aboutBox"));
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    box->setInformativeText(
+        (bPortable ? tr("Settings, portable:\n%1\n\nQt %2") : tr("Settings:\n%1\n\nQt %2"))
+            .arg(settings, QLatin1String(qVersion())));
+    box->open();
+}
+
+} // namespace BandMonitor
