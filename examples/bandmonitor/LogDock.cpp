@@ -17,11 +17,11 @@ namespace {
 constexpr QRgb WarningColour = qRgb(0xd9, 0x82, 0x00);
 constexpr QRgb ErrorColour = qRgb(0xe0, 0x3c, 0x31);
 
-QColor colourOf(LogTracer::eLevel level, const QPalette &palette)
+QColor colourOf(LogTracer::eLevel severity, const QPalette &palette)
 {
     const QColor &text = palette.color(QPalette::Text);
-    switch (level) {
-    case LogTracer::ekLevel_Warning:
+    switch (severity) {
+    case LogTracer::ekLevel_Warn:
         return WarningColour;
     case LogTracer::ekLevel_Error:
         return ErrorColour;
@@ -78,7 +78,7 @@ void LogDock::_showLine(const LogTracer::struLine &line)
     QTextCursor cursor(m_view->document()->lastBlock());
     cursor.select(QTextCursor::BlockUnderCursor);
     QTextCharFormat format;
-    format.setForeground(colourOf(line.level, palette()));
+    format.setForeground(colourOf(line.severity, palette()));
     cursor.mergeCharFormat(format);
 }
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "IPYXTracer.h"
 #include "pyxruntime_export.h"
+#include "PYXTracerBase.h"
 
 #include <QtCore/QList>
 #include <QtCore/QObject>
@@ -22,7 +22,7 @@ namespace PYXRuntime {
  * after it is shut down. Trace calls may come from any thread; tracers and switches are changed in one
  * thread (the main thread) while no trace call runs elsewhere.
  */
-class PYXRUNTIME_EXPORT PYXTraceWrapper : public QObject, public Interfaces::IPYXTracer2
+class PYXRUNTIME_EXPORT PYXTraceWrapper : public QObject, public PYXTracerBase
 {
     Q_OBJECT
     Q_DISABLE_COPY(PYXTraceWrapper)
@@ -91,34 +91,8 @@ public:
     static void staticTraceX_Debug_Error(const QString &traceText, const QString &logText, const char *file,
                                          ushort line);
 
-    void traceDebug(const QStringList &list, const char *file, ushort line) override;
-    void traceDebug(const QString &text, const char *file, ushort line) override;
-    void traceInfo(const QStringList &list, const char *file, ushort line) override;
-    void traceInfo(const QString &text, const char *file, ushort line) override;
-    void traceWarn(const QStringList &list, const char *file, ushort line) override;
-    void traceWarn(const QString &text, const char *file, ushort line) override;
-    void traceError(const QStringList &list, const char *file, ushort line) override;
-    void traceError(const QString &text, const char *file, ushort line) override;
-    void traceX_Debug(const QString &traceText, const QString &logText, const char *file,
-                      ushort line) override;
-    void traceX_Info(const QString &traceText, const QString &logText, const char *file,
-                     ushort line) override;
-    void traceX_Warn(const QString &traceText, const QString &logText, const char *file,
-                     ushort line) override;
-    void traceX_Error(const QString &traceText, const QString &logText, const char *file,
-                      ushort line) override;
-    void traceDebug_Info(const QStringList &list, const char *file, ushort line) override;
-    void traceDebug_Info(const QString &text, const char *file, ushort line) override;
-    void traceDebug_Warn(const QStringList &list, const char *file, ushort line) override;
-    void traceDebug_Warn(const QString &text, const char *file, ushort line) override;
-    void traceDebug_Error(const QStringList &list, const char *file, ushort line) override;
-    void traceDebug_Error(const QString &text, const char *file, ushort line) override;
-    void traceX_Debug_Info(const QString &traceText, const QString &logText, const char *file,
-                           ushort line) override;
-    void traceX_Debug_Warn(const QString &traceText, const QString &logText, const char *file,
-                           ushort line) override;
-    void traceX_Debug_Error(const QString &traceText, const QString &logText, const char *file,
-                            ushort line) override;
+protected:
+    void trace(const struTrace &trace) override;
 
 private:
     PYXTraceWrapper();

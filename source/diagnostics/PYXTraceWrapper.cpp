@@ -83,6 +83,13 @@ constexpr struLevel DebugError = {
     ErrorOperations,
     {&IPYXTracer2::traceDebug_Error, &IPYXTracer2::traceDebug_Error, &IPYXTracer2::traceX_Debug_Error}};
 
+const struLevel &levelOf(PYXTracerBase::eLevel level)
+{
+    static constexpr const struLevel *Levels[] = {&Debug,     &Info,      &Warn,      &Error,
+                                                  &DebugInfo, &DebugWarn, &DebugError};
+    return *Levels[level];
+}
+
 QString prefixed(const QString &text)
 {
     return text.isEmpty() ? text : DebugPrefix + text;
@@ -128,7 +135,7 @@ void forEachTracer(const struLevel &level, Plain plain, Qualified qualified)
     }
 }
 
-void trace(const struLevel &level, const QString &text, const char *file, ushort line)
+void dispatch(const struLevel &level, const QString &text, const char *file, ushort line)
 {
     if (writesDebugOut())
         writeDebugOut(level, "TRACE_", text, file, line);
@@ -144,7 +151,7 @@ void trace(const struLevel &level, const QString &text, const char *file, ushort
         [&](IPYXTracer2 *tracer) { (tracer->*level.qualified.text)(text, file, line); });
 }
 
-void trace(const struLevel &level, const QStringList &list, const char *file, ushort line)
+void dispatch(const struLevel &level, const QStringList &list, const char *file, ushort line)
 {
     if (writesDebugOut())
         writeDebugOut(level, "TRACE_", list.join(ListSeparator), file, line);
@@ -154,8 +161,8 @@ void trace(const struLevel &level, const QStringList &list, const char *file, us
         [&](IPYXTracer2 *tracer) { (tracer->*level.qualified.list)(list, file, line); });
 }
 
-void trace(const struLevel &level, const QString &traceText, const QString &logText, const char *file,
-           ushort line)
+void dispatch(const struLevel &level, const QString &traceText, const QString &logText, const char *file,
+              ushort line)
 {
     if (writesDebugOut()) {
         if (logText.isEmpty())
@@ -256,226 +263,127 @@ bool PYXTraceWrapper::coloredConsoleOutput()
 
 void PYXTraceWrapper::staticTraceDebug(const QString &text, const char *file, ushort line)
 {
-    trace(Debug, text, file, line);
+    dispatch(Debug, text, file, line);
 }
 
 void PYXTraceWrapper::staticTraceDebug(const QStringList &list, const char *file, ushort line)
 {
-    trace(Debug, list, file, line);
+    dispatch(Debug, list, file, line);
 }
 
 void PYXTraceWrapper::staticTraceX_Debug(const QString &traceText, const QString &logText, const char *file,
                                          ushort line)
 {
-    trace(Debug, traceText, logText, file, line);
+    dispatch(Debug, traceText, logText, file, line);
 }
 
 void PYXTraceWrapper::staticTraceInfo(const QString &text, const char *file, ushort line)
 {
-    trace(Info, text, file, line);
+    dispatch(Info, text, file, line);
 }
 
 void PYXTraceWrapper::staticTraceInfo(const QStringList &list, const char *file, ushort line)
 {
-    trace(Info, list, file, line);
+    dispatch(Info, list, file, line);
 }
 
 void PYXTraceWrapper::staticTraceX_Info(const QString &traceText, const QString &logText, const char *file,
                                         ushort line)
 {
-    trace(Info, traceText, logText, file, line);
+    dispatch(Info, traceText, logText, file, line);
 }
 
 void PYXTraceWrapper::staticTraceWarn(const QString &text, const char *file, ushort line)
 {
-    trace(Warn, text, file, line);
+    dispatch(Warn, text, file, line);
 }
 
 void PYXTraceWrapper::staticTraceWarn(const QStringList &list, const char *file, ushort line)
 {
-    trace(Warn, list, file, line);
+    dispatch(Warn, list, file, line);
 }
 
 void PYXTraceWrapper::staticTraceX_Warn(const QString &traceText, const QString &logText, const char *file,
                                         ushort line)
 {
-    trace(Warn, traceText, logText, file, line);
+    dispatch(Warn, traceText, logText, file, line);
 }
 
 void PYXTraceWrapper::staticTraceError(const QString &text, const char *file, ushort line)
 {
-    trace(Error, text, file, line);
+    dispatch(Error, text, file, line);
 }
 
 void PYXTraceWrapper::staticTraceError(const QStringList &list, const char *file, ushort line)
 {
-    trace(Error, list, file, line);
+    dispatch(Error, list, file, line);
 }
 
 void PYXTraceWrapper::staticTraceX_Error(const QString &traceText, const QString &logText, const char *file,
                                          ushort line)
 {
-    trace(Error, traceText, logText, file, line);
+    dispatch(Error, traceText, logText, file, line);
 }
 
 void PYXTraceWrapper::staticTrace_Debug_Info(const QString &text, const char *file, ushort line)
 {
-    trace(DebugInfo, text, file, line);
+    dispatch(DebugInfo, text, file, line);
 }
 
 void PYXTraceWrapper::staticTrace_Debug_Info(const QStringList &list, const char *file, ushort line)
 {
-    trace(DebugInfo, list, file, line);
+    dispatch(DebugInfo, list, file, line);
 }
 
 void PYXTraceWrapper::staticTraceX_Debug_Info(const QString &traceText, const QString &logText,
                                               const char *file, ushort line)
 {
-    trace(DebugInfo, traceText, logText, file, line);
+    dispatch(DebugInfo, traceText, logText, file, line);
 }
 
 void PYXTraceWrapper::staticTrace_Debug_Warn(const QString &text, const char *file, ushort line)
 {
-    trace(DebugWarn, text, file, line);
+    dispatch(DebugWarn, text, file, line);
 }
 
 void PYXTraceWrapper::staticTrace_Debug_Warn(const QStringList &list, const char *file, ushort line)
 {
-    trace(DebugWarn, list, file, line);
+    dispatch(DebugWarn, list, file, line);
 }
 
 void PYXTraceWrapper::staticTraceX_Debug_Warn(const QString &traceText, const QString &logText,
                                               const char *file, ushort line)
 {
-    trace(DebugWarn, traceText, logText, file, line);
+    dispatch(DebugWarn, traceText, logText, file, line);
 }
 
 void PYXTraceWrapper::staticTrace_Debug_Error(const QString &text, const char *file, ushort line)
 {
-    trace(DebugError, text, file, line);
+    dispatch(DebugError, text, file, line);
 }
 
 void PYXTraceWrapper::staticTrace_Debug_Error(const QStringList &list, const char *file, ushort line)
 {
-    trace(DebugError, list, file, line);
+    dispatch(DebugError, list, file, line);
 }
 
 void PYXTraceWrapper::staticTraceX_Debug_Error(const QString &traceText, const QString &logText,
                                                const char *file, ushort line)
 {
-    trace(DebugError, traceText, logText, file, line);
+    dispatch(DebugError, traceText, logText, file, line);
 }
 
-void PYXTraceWrapper::traceDebug(const QString &text, const char *file, ushort line)
+void PYXTraceWrapper::trace(const struTrace &trace)
 {
-    staticTraceDebug(text, file, line);
-}
-
-void PYXTraceWrapper::traceDebug(const QStringList &list, const char *file, ushort line)
-{
-    staticTraceDebug(list, file, line);
-}
-
-void PYXTraceWrapper::traceX_Debug(const QString &traceText, const QString &logText, const char *file,
-                                   ushort line)
-{
-    staticTraceX_Debug(traceText, logText, file, line);
-}
-
-void PYXTraceWrapper::traceInfo(const QString &text, const char *file, ushort line)
-{
-    staticTraceInfo(text, file, line);
-}
-
-void PYXTraceWrapper::traceInfo(const QStringList &list, const char *file, ushort line)
-{
-    staticTraceInfo(list, file, line);
-}
-
-void PYXTraceWrapper::traceX_Info(const QString &traceText, const QString &logText, const char *file,
-                                  ushort line)
-{
-    staticTraceX_Info(traceText, logText, file, line);
-}
-
-void PYXTraceWrapper::traceWarn(const QString &text, const char *file, ushort line)
-{
-    staticTraceWarn(text, file, line);
-}
-
-void PYXTraceWrapper::traceWarn(const QStringList &list, const char *file, ushort line)
-{
-    staticTraceWarn(list, file, line);
-}
-
-void PYXTraceWrapper::traceX_Warn(const QString &traceText, const QString &logText, const char *file,
-                                  ushort line)
-{
-    staticTraceX_Warn(traceText, logText, file, line);
-}
-
-void PYXTraceWrapper::traceError(const QString &text, const char *file, ushort line)
-{
-    staticTraceError(text, file, line);
-}
-
-void PYXTraceWrapper::traceError(const QStringList &list, const char *file, ushort line)
-{
-    staticTraceError(list, file, line);
-}
-
-void PYXTraceWrapper::traceX_Error(const QString &traceText, const QString &logText, const char *file,
-                                   ushort line)
-{
-    staticTraceX_Error(traceText, logText, file, line);
-}
-
-void PYXTraceWrapper::traceDebug_Info(const QString &text, const char *file, ushort line)
-{
-    staticTrace_Debug_Info(text, file, line);
-}
-
-void PYXTraceWrapper::traceDebug_Info(const QStringList &list, const char *file, ushort line)
-{
-    staticTrace_Debug_Info(list, file, line);
-}
-
-void PYXTraceWrapper::traceX_Debug_Info(const QString &traceText, const QString &logText, const char *file,
-                                        ushort line)
-{
-    staticTraceX_Debug_Info(traceText, logText, file, line);
-}
-
-void PYXTraceWrapper::traceDebug_Warn(const QString &text, const char *file, ushort line)
-{
-    staticTrace_Debug_Warn(text, file, line);
-}
-
-void PYXTraceWrapper::traceDebug_Warn(const QStringList &list, const char *file, ushort line)
-{
-    staticTrace_Debug_Warn(list, file, line);
-}
-
-void PYXTraceWrapper::traceX_Debug_Warn(const QString &traceText, const QString &logText, const char *file,
-                                        ushort line)
-{
-    staticTraceX_Debug_Warn(traceText, logText, file, line);
-}
-
-void PYXTraceWrapper::traceDebug_Error(const QString &text, const char *file, ushort line)
-{
-    staticTrace_Debug_Error(text, file, line);
-}
-
-void PYXTraceWrapper::traceDebug_Error(const QStringList &list, const char *file, ushort line)
-{
-    staticTrace_Debug_Error(list, file, line);
-}
-
-void PYXTraceWrapper::traceX_Debug_Error(const QString &traceText, const QString &logText, const char *file,
-                                         ushort line)
-{
-    staticTraceX_Debug_Error(traceText, logText, file, line);
+    const struLevel &level = levelOf(trace.level);
+    switch (trace.form) {
+    case ekForm_List:
+        return dispatch(level, trace.list, trace.file, trace.line);
+    case ekForm_TwoTexts:
+        return dispatch(level, trace.text, trace.logText, trace.file, trace.line);
+    default:
+        return dispatch(level, trace.text, trace.file, trace.line);
+    }
 }
 
 } // namespace PYXRuntime

@@ -13,6 +13,7 @@
 #include <functional>
 #include <thread>
 
+using PYXRuntime::PYXTracerBase;
 using PYXRuntime::PYXTraceWrapper;
 
 namespace {
@@ -95,6 +96,18 @@ private:
     Action m_action;
 };
 
+class WholeTextTracer : public PYXTracerBase
+{
+public:
+    QStringList calls;
+
+protected:
+    void trace(const struTrace &trace) override
+    {
+        calls += QString("%1 %2: %3").arg(trace.level).arg(trace.severity()).arg(trace.wholeText());
+    }
+};
+
 } // namespace
 
 class tst_PYXTraceWrapper : public QObject
@@ -107,6 +120,7 @@ private slots:
     void tracersGetEveryForm();
     void tracerList();
     void tracersMayChangeTheList();
+    void tracersWithOneOperationGetEveryForm();
     void singletonIsATracer();
     void tracesFromManyThreads();
 };
@@ -207,6 +221,21 @@ void tst_PYXTraceWrapper::tracersMayChangeTheList()
     QCOMPARE(PYXTraceWrapper::tracers().size(), int(added.size()));
     for (const RecordingTracer &tracer : added)
         QVERIFY(tracer.calls.isEmpty());
+}
+
+void tst_PYXTraceWrapper::tracersWithOneOperationGetEveryForm()
+{
+    for (int level = 0; level < int(std::size(Levels)); ++level) {
+        const int severity = level < 4 ? level : level - 3;
+        QStringList expected;
+        for (const char *text : {"te%1xt", "", "a | b", "", "t: l", "t"})
+            expected += QString("%1 %2: ").arg(level).arg(severity) + text;
+        WholeTextTracer tracer;
+        PYXTraceWrapper::addTracer(&tracer);
+        callEveryForm(Levels[level]);
+        PYXTraceWrapper::removeTracer(&tracer);
+        QCOMPARE(tracer.calls, expected);
+    }
 }
 
 void tst_PYXTraceWrapper::singletonIsATracer()
