@@ -2,14 +2,16 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "SimpleContainer.h"
 
-#include <QtCore/QBuffer>
+#include <QtCore/QtEndian>
 
 #include <array>
 
 namespace PYXRuntime {
 namespace {
 
-constexpr auto StreamVersion = QDataStream::Qt_4_6;
+// The fields are those of QDataStream. It would copy the secret into buffers of its own, though, and believe
+// a length up to a megabyte.
+
 /** All but the bytes of key and data. */
 constexpr int FixedSize = 21;
 
@@ -38,17 +40,56 @@ constexpr ChecksumTables makeTables()
 
 constexpr ChecksumTables Tables = makeTables();
 
-/** The next array of a record, as a view; empty where fewer bytes are left than it claims. */
-QByteArray readView(QDataStream &stream, const QByteArray &record)
+template <typename Number>
+void appendNumber(QByteArray &record, Number number)
 {
-    quint32 length = 0;
-    stream >> length;
-    const auto left = quint32(stream.device()->bytesAvailable());
-    const auto start = int(stream.device()->pos());
-    const auto taken = int(qMin(length, left));
-    stream.skipRawData(taken);
-    return length <= left ? QByteArray::fromRawData(record.constData() + start, taken) : QByteArray();
+    char bytes[sizeof number];
+    qToBigEndian(number, bytes);
+    record.append(bytes, int(sizeof number));
 }
+
+void appendArray(QByteArray &record, const QByteArray &array)
+{
+    appendNumber(record, quint32(array.size()));
+    record.append(array.constData(), array.size());
+}
+
+/** Reads big-endian fields; the first one that is not there ends the record. */
+class RecordCursor final
+{
+public:
+    explicit RecordCursor(const QByteArray &record)
+        : m_next(record.constData())
+        , m_end(m_next + record.size())
+    {}
+
+    template <typename Number>
+    Number number()
+    {
+        const char *const bytes = taken(sizeof(Number));
+        return bytes != nullptr ? qFromBigEndian<Number>(bytes) : Number(0);
+    }
+
+    /** Refers to the bytes of the record. */
+    QByteArray array()
+    {
+        const auto length = number<quint32>();
+        const char *const bytes = taken(length);
+        return bytes != nullptr ? QByteArray::fromRawData(bytes, int(length)) : QByteArray();
+    }
+
+private:
+    const char *taken(quint32 size)
+    {
+        const bool bEnough = size <= quint32(m_end - m_next);
+        const char *const found = bEnough ? m_next : nullptr;
+        m_next = bEnough ? m_next + size : m_end;
+        return found;
+    }
+
+    const char *m_next;
+    const char *m_end;
+};
 
 } // namespace
 
@@ -56,23 +97,27 @@ QByteArray SimpleContainer::toRecord() const
 {
     QByteArray record;
     record.reserve(FixedSize + key.size() + data.size());
-    QBuffer buffer(&record);
-    buffer.open(QIODevice::WriteOnly);
-    QDataStream stream(&buffer);
-    stream.setVersion(StreamVersion);
-    stream << magic << marker << plainLength << keyChecksum << key << dataChecksum << data;
+    appendNumber(record, magic);
+    appendNumber(record, marker);
+    appendNumber(record, plainLength);
+    appendNumber(record, keyChecksum);
+    appendArray(record, key);
+    appendNumber(record, dataChecksum);
+    appendArray(record, data);
     return record;
 }
 
 SimpleContainer SimpleContainer::fromRecord(const QByteArray &record)
 {
-    QDataStream stream(record);
-    stream.setVersion(StreamVersion);
+    RecordCursor cursor(record);
     SimpleContainer container;
-    stream >> container.magic >> container.marker >> container.plainLength >> container.keyChecksum;
-    container.key = readView(stream, record);
-    stream >> container.dataChecksum;
-    container.data = readView(stream, record);
+    container.magic = cursor.number<quint32>();
+    container.marker = cursor.number<quint8>();
+    container.plainLength = cursor.number<qint32>();
+    container.keyChecksum = cursor.number<quint16>();
+    container.key = cursor.array();
+    container.dataChecksum = cursor.number<quint16>();
+    container.data = cursor.array();
     return container;
 }
 

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QtCore/QByteArray>
-#include <QtCore/QDataStream>
 
 namespace PYXRuntime {
 

@@ -6,6 +6,9 @@
 #include "SimpleContainer.h"
 #include "WipedValue.h"
 
+#include <algorithm>
+#include <cstring>
+
 namespace PYXRuntime {
 namespace {
 
@@ -35,6 +38,12 @@ const char *fault(const SimpleContainer &container)
     if (SimpleContainer::checksum(container.data) != container.dataChecksum)
         return "checksums for unpacked encrypted data do not match";
     return nullptr;
+}
+
+void copyRepeatedly(char *bytes, int size, const QByteArray &pattern)
+{
+    for (int start = 0; start < size; start += pattern.size())
+        std::memcpy(bytes + start, pattern.constData(), std::size_t(qMin(pattern.size(), size - start)));
 }
 
 /** XORs the bytes with a pattern that begins anew where it ends. */
@@ -106,11 +115,14 @@ QByteArray SimpleEncryptionProvider::staticDecrypt(const QByteArray &container)
     const SimpleContainer unpacked = SimpleContainer::fromRecord(record.value);
     if (const char *const reason = fault(unpacked))
         return refused(reason, __LINE__);
-    const WipedBytes plain(_decrypt(unpacked.data, unpacked.key));
-    if (plain.value.isEmpty())
+    QByteArray plain = _decrypt(unpacked.data, unpacked.key);
+    if (plain.isEmpty())
         return refused("decryption failed", __LINE__);
-    // Sharing the buffer would wipe the result too.
-    return {plain.value.constData(), qBound(0, unpacked.plainLength, plain.value.size())};
+    // A short plain text was repeated up to the length of the key.
+    const int length = qBound(0, unpacked.plainLength, plain.size());
+    std::fill(plain.begin() + length, plain.end(), '\0');
+    plain.truncate(length);
+    return plain;
 }
 
 QString SimpleEncryptionProvider::staticDecryptToQString(const QByteArray &container)
@@ -184,8 +196,8 @@ QByteArray SimpleEncryptionProvider::_hash(const QByteArray &data, int algorithm
 
 QByteArray SimpleEncryptionProvider::_encrypt(const QByteArray &data, const QByteArray &key)
 {
-    QByteArray result(qMax(data.size(), key.size()), '\0');
-    xorRepeatedly(result.data(), result.size(), data);
+    QByteArray result(qMax(data.size(), key.size()), Qt::Uninitialized);
+    copyRepeatedly(result.data(), result.size(), data);
     xorRepeatedly(result.data(), result.size(), key);
     return result;
 }
