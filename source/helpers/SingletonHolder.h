@@ -30,6 +30,14 @@ public:
 
     static void destroy() { delete pointer().data(); }
 
+    /** The object, for the caller to delete; while that happens, there is none here. */
+    static T *take()
+    {
+        QPointer<T> taken;
+        taken.swap(pointer());
+        return taken.data();
+    }
+
 private:
     static QPointer<T> &pointer()
     {

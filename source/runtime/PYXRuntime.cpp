@@ -3,6 +3,7 @@
 #include "PYXRuntime.h"
 
 #include "EmbeddedFonts.h"
+#include "PYXEncryptionManager.h"
 #include "PYXRuntimeCenter.h"
 #include "PYXStatusHash.h"
 #include "PYXThisRunOnlySettings.h"
@@ -76,6 +77,7 @@ bool initialize_PYXRuntime(ePYXInitializeFlags flags)
     reportMissingApplicationName();
     QSettings::setDefaultFormat(PYXXmlSettings::format());
     PYXThisRunOnlySettings::makeSureInitialized();
+    PYXEncryptionManager::makeSureInitialized();
     PYXStatusHash::registerMetaType();
     if (!flags.testFlag(ekInitialize_NoFonts))
         setUpFonts(flags);
@@ -96,6 +98,7 @@ void uninitialize_PYXRuntime()
     PYXTraceWrapper::staticTraceDebug(
         QStringLiteral("uninitialize_PYXRuntime: last reference gone => cleaning up"), TraceFile, __LINE__);
     tearDownFonts();
+    PYXEncryptionManager::destroyInstance();
     PYXThisRunOnlySettings::destroyInstance();
     if (QSettings::defaultFormat() == PYXXmlSettings::format())
         QSettings::setDefaultFormat(QSettings::NativeFormat);
