@@ -3,6 +3,7 @@
 #include "PYXRuntime.h"
 
 #include "EmbeddedFonts.h"
+#include "PYXNetworkEntry.h"
 #include "PYXRuntimeCenter.h"
 #include "PYXStatusHash.h"
 #include "PYXThisRunOnlySettings.h"
@@ -77,6 +78,7 @@ bool initialize_PYXRuntime(ePYXInitializeFlags flags)
     QSettings::setDefaultFormat(PYXXmlSettings::format());
     PYXThisRunOnlySettings::makeSureInitialized();
     PYXStatusHash::registerMetaType();
+    PYXNetworkEntry::registerMetaTypes();
     if (!flags.testFlag(ekInitialize_NoFonts))
         setUpFonts(flags);
     s_initializationFlags = flags;
