@@ -4,6 +4,7 @@
 
 #include "EmbeddedFonts.h"
 #include "PYXEncryptionManager.h"
+#include "PYXNetworkEntry.h"
 #include "PYXRuntimeCenter.h"
 #include "PYXStatusHash.h"
 #include "PYXThisRunOnlySettings.h"
@@ -79,6 +80,7 @@ bool initialize_PYXRuntime(ePYXInitializeFlags flags)
     PYXThisRunOnlySettings::makeSureInitialized();
     PYXEncryptionManager::makeSureInitialized();
     PYXStatusHash::registerMetaType();
+    PYXNetworkEntry::registerMetaTypes();
     if (!flags.testFlag(ekInitialize_NoFonts))
         setUpFonts(flags);
     s_initializationFlags = flags;
