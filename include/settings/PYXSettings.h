@@ -31,7 +31,8 @@ class PYXStatusHash;
  * on one store. Two processes that write different keys of one store both keep their keys.
  *
  * No operation reports an error: what is missing reads as the empty value of the type. That a store cannot
- * be written is in status(), and is traced as a warning once until it can be written again.
+ * be written is in status(), and is traced as a warning once until it can be written again. Windows does not
+ * replace a file while another process has it open: saving then waits, for two seconds at most.
  *
  * Every object carries its this-run-only flag as the dynamic property "pyx__purpose__". The purpose is set
  * under that same name just before, so only the flag remains; the queries below therefore answer from it.
@@ -70,6 +71,8 @@ public:
     explicit PYXSettings(eThisRunOnlySettings settings, QObject *parent = nullptr);
     /** Saves what has changed. */
     ~PYXSettings() override;
+    /** Saves what has changed, and takes over what others have. */
+    void sync();
 
     /**
      * The property "pyx__purpose__" as a number: 0, or 1 for a this-run-only object. The following
@@ -194,6 +197,9 @@ public:
 
 protected:
     bool event(QEvent *event) override;
+
+private:
+    void _saveChanges();
 };
 
 } // namespace PYXRuntime

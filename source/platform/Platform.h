@@ -55,6 +55,15 @@ quint64 fileTimeOfUnixEpoch();
 /** The file name under which a shared library of this base name is looked for. */
 QString libraryFileName(const QString &baseName);
 
+/** Whether a file can be replaced while a process has it open. */
+bool canReplaceOpenFiles();
+
+/**
+ * Whether what has kept a file from being replaced may pass: it is there, and nothing but a process that has
+ * it open stands in the way of writing it.
+ */
+bool mayBecomeReplaceable(const QString &file);
+
 /** Tells the shell that files with this suffix are XML texts; does nothing where there is no such registry.
  */
 void registerXmlFileType(const QString &suffix);

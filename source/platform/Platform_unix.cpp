@@ -126,6 +126,16 @@ QString libraryFileName(const QString &baseName)
     return baseName;
 }
 
+bool canReplaceOpenFiles()
+{
+    return true;
+}
+
+bool mayBecomeReplaceable(const QString &)
+{
+    return false;
+}
+
 void registerXmlFileType(const QString &) {}
 
 } // namespace PYXRuntime::Platform

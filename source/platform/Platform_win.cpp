@@ -122,6 +122,23 @@ QString libraryFileName(const QString &baseName)
     return baseName + QLatin1String(".dll");
 }
 
+bool canReplaceOpenFiles()
+{
+    return false;
+}
+
+bool mayBecomeReplaceable(const QString &file)
+{
+    // Opened so that it is in nobody's way.
+    const HANDLE handle =
+        CreateFileW(wideText(file), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                    nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (handle == INVALID_HANDLE_VALUE)
+        return GetLastError() == ERROR_SHARING_VIOLATION;
+    CloseHandle(handle);
+    return true;
+}
+
 void registerXmlFileType(const QString &suffix)
 {
     QSettings classes(QStringLiteral("HKEY_CLASSES_ROOT"), QSettings::NativeFormat);

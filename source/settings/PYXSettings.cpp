@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "PYXSettings.h"
 
+#include "OpenFileRetry.h"
 #include "PYXStatusHash.h"
 #include "PYXThisRunOnlySettings.h"
 #include "SettingsSubTrees.h"
@@ -120,8 +121,21 @@ PYXSettings::PYXSettings(eThisRunOnlySettings settings, QObject *parent)
 
 PYXSettings::~PYXSettings()
 {
-    // A change that is still to be saved has an event on its way. Taking it here tells of a failure, about
-    // which the base class would keep silent.
+    _saveChanges();
+}
+
+void PYXSettings::sync()
+{
+    _saveChanges();
+    QSettings::sync();
+}
+
+/**
+ * A change that is still to be saved has an event on its way. Taking it here tells of a failure, about which
+ * the base class would keep silent.
+ */
+void PYXSettings::_saveChanges()
+{
     if (thread() == QThread::currentThread())
         QCoreApplication::sendPostedEvents(this, QEvent::UpdateRequest);
 }
@@ -131,6 +145,7 @@ bool PYXSettings::event(QEvent *event)
     if (event->type() != QEvent::UpdateRequest)
         return QSettings::event(event);
     const QSettings::Status before = status();
+    OpenFileRetry::save(*this);
     const bool bHandled = QSettings::event(event);
     StoreFailures::noteSaved(*this, before);
     return bHandled;

@@ -2,17 +2,10 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include <QtCore/QLatin1String>
+#include "Latin1Text.h"
 
 /** The directories of the organisation that have a setting in the shared stores. */
 namespace PYXRuntime::SharedPathSettings {
-
-/** The constructor that counts the characters itself is not constexpr everywhere. */
-template <std::size_t Size>
-constexpr QLatin1String latin1(const char (&text)[Size])
-{
-    return QLatin1String(text, int(Size) - 1);
-}
 
 struct struSharedPath
 {

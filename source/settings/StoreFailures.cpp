@@ -44,6 +44,12 @@ void forget(const QString &file)
 
 } // namespace
 
+bool isFailing(const QString &file)
+{
+    const Locker locker(failing().mutex);
+    return failing().files.contains(file);
+}
+
 void noteSaved(const QSettings &settings, QSettings::Status before)
 {
     const QSettings::Status after = settings.status();

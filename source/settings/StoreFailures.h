@@ -10,4 +10,7 @@ namespace PYXRuntime::StoreFailures {
 /** To be called after an attempt to save; @p before is the status from before it. */
 void noteSaved(const QSettings &settings, QSettings::Status before);
 
+/** Whether it was told of a store, which has not been saved since. */
+bool isFailing(const QString &file);
+
 } // namespace PYXRuntime::StoreFailures

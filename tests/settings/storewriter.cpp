@@ -6,7 +6,6 @@
 #include "PYXXmlSettings.h"
 
 #include <QtCore/QCoreApplication>
-#include <QtCore/QThread>
 
 #include <cstdio>
 
@@ -16,24 +15,11 @@ namespace {
 
 constexpr int KeysPerSave = 25;
 constexpr int KeysOfGeneration = 100;
-constexpr int MostAttempts = 1000;
-constexpr int AttemptPauseMs = 5;
 
-/**
- * Where systems lock open files, another process may get in the way of a save: the change stays and goes with
- * a later one. A fresh object on the store tells how that went, since a status stays what it once was.
- */
 bool isSaved(PYXSettings &settings)
 {
     settings.sync();
-    bool bSaved = settings.status() == QSettings::NoError;
-    for (int attempt = 0; !bSaved && attempt < MostAttempts; ++attempt) {
-        QThread::msleep(AttemptPauseMs);
-        PYXSettings again(settings.fileName(), settings.format());
-        again.sync();
-        bSaved = again.status() == QSettings::NoError;
-    }
-    return bSaved;
+    return settings.status() == QSettings::NoError;
 }
 
 bool writeMany(PYXSettings &settings, const QString &prefix, int count)

@@ -33,12 +33,11 @@ private slots:
 
 private:
     static QString writer() { return QCoreApplication::applicationDirPath() + "/storewriter"; }
-    /** Writes in the way of applications. @return the status. */
     static QSettings::Status save(const QString &file, int value)
     {
         PYXSettings settings(file);
         settings.setValue("Key", value);
-        QCoreApplication::sendPostedEvents(&settings);
+        settings.sync();
         return settings.status();
     }
 
