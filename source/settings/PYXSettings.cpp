@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "PYXSettings.h"
 
+#include "EmptyLock.h"
 #include "OpenFileRetry.h"
 #include "PYXStatusHash.h"
 #include "PYXThisRunOnlySettings.h"
@@ -145,6 +146,7 @@ bool PYXSettings::event(QEvent *event)
     if (event->type() != QEvent::UpdateRequest)
         return QSettings::event(event);
     const QSettings::Status before = status();
+    EmptyLock::remove(fileName());
     OpenFileRetry::save(*this);
     const bool bHandled = QSettings::event(event);
     StoreFailures::noteSaved(*this, before);

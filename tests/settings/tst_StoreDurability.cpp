@@ -28,6 +28,7 @@ private slots:
     }
     void fourProcessesKeepAllKeys();
     void aKilledWriterLeavesAWholeFile();
+    void aLockThatNamesNobodyIsRemoved();
     void aVanishedDirectoryIsMadeAgain();
     void aStoreThatCannotBeWrittenIsToldOnce();
 
@@ -92,6 +93,20 @@ void tst_StoreDurability::aKilledWriterLeavesAWholeFile()
         QVERIFY2(generation > last, "what was saved has gone");
         last = generation;
     }
+}
+
+/** As a process leaves it that is killed at an unlucky moment. */
+void tst_StoreDurability::aLockThatNamesNobodyIsRemoved()
+{
+    const QString file = m_home.path("locked.PYXXml");
+    QFile lock(file + ".lock");
+    QVERIFY(lock.open(QIODevice::WriteOnly));
+    lock.close();
+    QElapsedTimer timer;
+    timer.start();
+    QCOMPARE(save(file, 1), QSettings::NoError);
+    QVERIFY(timer.elapsed() < 15'000); // by itself, the lock lasts for half a minute
+    QVERIFY(!lock.exists());
 }
 
 void tst_StoreDurability::aVanishedDirectoryIsMadeAgain()
