@@ -2,40 +2,14 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "PYXStatusHash.h"
 
-#include "PYXRuntimeCenter.h"
-#include "PYXTraceWrapper.h"
 #include "PYXXmlSettings.h"
 #include "RecordingTracer.h"
+#include "SampleValues.h"
 
-#include <QtCore/QBitArray>
-#include <QtCore/QBuffer>
-#include <QtCore/QEasingCurve>
-#include <QtCore/QElapsedTimer>
-#include <QtCore/QLine>
-#include <QtCore/QRandomGenerator>
-#include <QtCore/QRect>
-#include <QtCore/QRegularExpression>
-#include <QtCore/QSettings>
-#include <QtCore/QTemporaryDir>
-#include <QtCore/QTimeZone>
-#include <QtCore/QUrl>
-#include <QtCore/QUuid>
-#include <QtCore/QXmlStreamWriter>
-#include <QtGui/QBrush>
-#include <QtGui/QFont>
-#include <QtGui/QIcon>
-#include <QtGui/QImage>
-#include <QtGui/QKeySequence>
-#include <QtGui/QMatrix4x4>
-#include <QtGui/QPalette>
-#include <QtGui/QPen>
-#include <QtGui/QPixmap>
 #include <QtTest/QTest>
 #include <QtXml/QDomDocument>
 
-using PYXRuntime::PYXRuntimeCenter;
 using PYXRuntime::PYXStatusHash;
-using PYXRuntime::PYXTraceWrapper;
 
 struct struUnstreamable
 {
@@ -77,7 +51,6 @@ public:
             u8(0).u8(c);
         return *this;
     }
-    Bytes &repeated(const QByteArray &bytes, int times) { return raw(bytes.repeated(times)); }
     operator QByteArray() const { return m_data; }
 
 private:
@@ -90,29 +63,13 @@ Bytes oneEntry(quint32 magic = 0)
     return Bytes().u32(magic).u32(1).u32(1).text("a");
 }
 
-/** Collects the traces while it lives. */
-class Traces : public RecordingTracer
-{
-public:
-    Traces() { PYXTraceWrapper::addTracer(this); }
-    ~Traces() override { PYXTraceWrapper::removeTracer(this); }
-};
-
-/** No lines of the library's scope while it lives. */
-class SilentScope
-{
-public:
-    SilentScope() { PYXRuntimeCenter::setEnabled_pyxWarning("PYXRuntime", false); }
-    ~SilentScope() { PYXRuntimeCenter::setEnabled_pyxWarning("PYXRuntime", true); }
-};
-
-PYXStatusHash hashOf(std::initializer_list<std::pair<QString, QVariant>> entries, quint32 magic = 0)
+PYXStatusHash hashOf(const QVariantHash &entries, quint32 magic = 0)
 {
     PYXStatusHash hash;
     if (magic != 0)
         hash = PYXStatusHash(magic);
-    for (const auto &entry : entries)
-        hash.insert(entry.first, entry.second);
+    for (auto entry = entries.cbegin(); entry != entries.cend(); ++entry)
+        hash.insert(entry.key(), entry.value());
     return hash;
 }
 
@@ -121,128 +78,23 @@ QVariant nested(const PYXStatusHash &hash)
     return QVariant::fromValue(hash);
 }
 
-QDateTime anyTime()
+/** Types and contents: QVariant compares many types by address. Hashes have no order of their own. */
+QByteArray contentOf(const QVariant &value)
 {
-    return QDateTime(QDate(2026, 3, 1), QTime(12, 30, 15, 250), Qt::UTC);
-}
-
-/** Not every system has a table of zones. */
-bool hasNamedZones()
-{
-    return QTimeZone("Europe/Berlin").isValid();
-}
-
-/** One value of every kind that has a form of its own in streams, but with the same result at all versions.
- */
-QVariantHash coreValues()
-{
-    return {{"null", QVariant()},
-            {"bool", true},
-            {"int", -7},
-            {"uint", 7U},
-            {"long", Q_INT64_C(-5000000000)},
-            {"ulong", Q_UINT64_C(1) << 63},
-            {"double", 0.1},
-            {"float", QVariant::fromValue(2.5F)},
-            {"char", QChar('x')},
-            {"text", QString::fromUtf8("Gr\u00f6\u00dfe \u20ac <&>")},
-            {"texts", QStringList{"a", QString(), "c"}},
-            {"bytes", QByteArray("\0\1\xff", 3)},
-            {"bits", QBitArray(11, true)},
-            {"date", QDate(1999, 12, 31)},
-            {"time", QTime(1, 2, 3, 4)},
-            {"date and time", anyTime()},
-            {"url", QUrl("http://example.com/a?b#c")},
-            {"uuid", QUuid(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11)},
-            {"expression", QRegularExpression("a+b", QRegularExpression::CaseInsensitiveOption)},
-            {"point", QPoint(1, -2)},
-            {"rect", QRectF(1.5, 2, 3, 4)},
-            {"line", QLineF(1, 2, 3, 4)},
-            {"list", QVariantList{1, "two", QVariantMap{{"three", 3}}}},
-            {"hash", QVariantHash{{"inner", QSize(1, 2)}}},
-            {"status", nested(hashOf({{"deep", nested(hashOf({{"x", 1}}, 3))}}, 0xFFFFFFFF))}};
-}
-
-QVariantHash guiValues()
-{
-    QFont font("Sans", 9);
-    font.setBold(true);
-    QImage image(3, 2, QImage::Format_RGB32);
-    image.fill(Qt::blue);
-    QLinearGradient gradient(0, 0, 1, 1);
-    gradient.setColorAt(0.5, Qt::red);
-    return {{"colour", QColor(1, 2, 3, 4)},
-            {"font", font},
-            {"brush", QBrush(gradient)},
-            {"pen", QPen(Qt::green, 2.5, Qt::DashDotLine)},
-            {"palette", QPalette(Qt::darkCyan)},
-            {"image", image},
-            {"pixmap", QPixmap::fromImage(image)},
-            {"key", QKeySequence("Ctrl+K, Ctrl+L")},
-            {"polygon", QPolygonF(QRectF(1, 2, 3, 4))},
-            {"matrix", QMatrix4x4()},
-            {"region", QRegion(1, 2, 3, 4)}};
-}
-
-QString anyText()
-{
-    QString text;
-    for (int left = QRandomGenerator::global()->bounded(12); left > 0; --left) {
-        const int kind = QRandomGenerator::global()->bounded(3);
-        text += QChar(QRandomGenerator::global()->bounded(kind == 0 ? 0x10000 : kind == 1 ? 0x80 : 0x200));
-    }
-    return text;
+    if (value.userType() == qMetaTypeId<PYXStatusHash>())
+        return contentOf(value.value<PYXStatusHash>().toXml());
+    if (value.userType() != QMetaType::QVariantHash)
+        return streamed(value, QDataStream::Qt_4_6);
+    return contentOf(hashOf(value.toHash()).toXml());
 }
 
 /** Only characters that XML has. */
-QString anyKey()
+QString randomKey(QRandomGenerator &random)
 {
-    const QString text = anyText();
     QString key;
-    for (const QChar c : text) {
-        if (c >= QChar(' ') && !c.isSurrogate() && c < QChar(0xFFFE))
-            key += c;
-    }
+    for (int length = random.bounded(12); length > 0; --length)
+        key += QChar(random.bounded(2) == 0 ? random.bounded(' ', 0x80) : random.bounded(0x80, 0xD800));
     return key;
-}
-
-QVariant anyValue(int level)
-{
-    auto *const random = QRandomGenerator::global();
-    switch (random->bounded(level < 3 ? 12 : 9)) {
-    case 0:
-        return anyText();
-    case 1:
-        return int(random->generate());
-    case 2:
-        return quint64(random->generate64());
-    case 3:
-        return random->bounded(1.0e6);
-    case 4:
-        return QRect(QPoint(int(random->generate()), -1), QPoint(5, int(random->generate())));
-    case 5:
-        return QByteArray::number(random->generate());
-    case 6:
-        return QLine(1, 2, 3, int(random->generate()));
-    case 7:
-        return QStringList{anyText(), anyText()};
-    case 8:
-        return random->bounded(2) == 1;
-    case 9:
-        return QVariantHash{{anyKey(), anyValue(level + 1)}, {anyKey(), anyValue(level + 1)}};
-    case 10:
-        return QVariantList{anyValue(level + 1), anyValue(level + 1)};
-    default:
-        return nested(hashOf({{anyKey(), anyValue(level + 1)}, {anyKey(), anyValue(level + 1)}}, 9));
-    }
-}
-
-PYXStatusHash anyHash()
-{
-    PYXStatusHash hash;
-    for (int i = 0; i < 8; ++i)
-        hash.insert(anyKey(), anyValue(0));
-    return hash;
 }
 
 } // namespace
@@ -255,15 +107,12 @@ private Q_SLOTS:
     void writesTheBinaryForm_data();
     void writesTheBinaryForm();
     void keepsItsCacheUntilItChanges();
-    void takesOnlyItsMagicNumber_data();
     void takesOnlyItsMagicNumber();
     void warnsOfUnknownFormatVersion();
-    void restoresEveryTypeAtEveryVersion_data();
-    void restoresEveryTypeAtEveryVersion();
+    void restoresEveryType();
     void refusesHostileBytes_data();
     void refusesHostileBytes();
-    void refusesZonesThatAreNone();
-    void bearsDamagedBytes();
+    void takesZonesThatCanBeWritten();
     void writesTheXmlForm();
     void writesAnyKey();
     void keepsTextsThatXmlCannotHold();
@@ -271,12 +120,11 @@ private Q_SLOTS:
     void readsXmlByHand();
     void refusesHostileXml_data();
     void refusesHostileXml();
-    void bearsDamagedXml();
+    void bearsDamage();
     void readsElementsOfADocument();
     void leavesOutWhatCouldNotBeRestored();
     void roundTripsRandomContent();
     void comparesByContent();
-    void livesInSettings();
     void streamsInsideOtherData();
 };
 
@@ -341,10 +189,6 @@ void tst_PYXStatusHash::keepsItsCacheUntilItChanges()
     QCOMPARE(hash.serialize(), form);
 
     QVERIFY(hash.restoreFrom(input));
-    hash.remove("a");
-    QCOMPARE(hash.serialize(), QByteArray(Bytes().u32(0).u32(1).u32(0)));
-
-    QVERIFY(hash.restoreFrom(input));
     QVERIFY(hash.restoreFromXml("<StatusHash><a type='Int'>5</a></StatusHash>"));
     QCOMPARE(hash.serialize(), form);
 
@@ -354,89 +198,53 @@ void tst_PYXStatusHash::keepsItsCacheUntilItChanges()
     QVERIFY(PYXStatusHash::fromSerialized(form).hasSameContentsAs(hashOf({{"a", 5}})));
 }
 
-void tst_PYXStatusHash::takesOnlyItsMagicNumber_data()
-{
-    QTest::addColumn<bool>("xml");
-    QTest::newRow("binary") << false;
-    QTest::newRow("XML") << true;
-}
-
 void tst_PYXStatusHash::takesOnlyItsMagicNumber()
 {
-    QFETCH(bool, xml);
     const PYXStatusHash other = hashOf({{"a", 1}}, 0x4321);
-    const auto restore = [&](PYXStatusHash &hash) {
-        return xml ? hash.restoreFromXml(other.toXml()) : hash.restoreFrom(other.serialize());
-    };
-    Traces traces;
-    PYXStatusHash hash(0x1234);
-    QVERIFY(!restore(hash));
-    QVERIFY(hash.isEmpty());
-    QCOMPARE(hash.magicNumber(), 0x1234U);
-    hash.unsetMagicNumber();
-    QVERIFY(restore(hash));
-    QCOMPARE(hash.magicNumber(), 0x4321U);
-    QCOMPARE(hash.value("a"), QVariant(1));
-    PYXStatusHash same(0x4321);
-    QVERIFY(restore(same));
-    QCOMPARE(traces.calls, QStringList());
+    for (const bool bXml : {false, true}) {
+        const auto restore = [&](PYXStatusHash &hash) {
+            return bXml ? hash.restoreFromXml(other.toXml()) : hash.restoreFrom(other.serialize());
+        };
+        PYXStatusHash hash(0x1234);
+        QCOMPARE(tracesOf([&] { QVERIFY(!restore(hash)); }), QStringList());
+        QVERIFY(hash.isEmpty());
+        QCOMPARE(hash.magicNumber(), 0x1234U);
+        hash.unsetMagicNumber();
+        QVERIFY(restore(hash));
+        QVERIFY(hash == other);
+        PYXStatusHash same(0x4321);
+        QVERIFY(restore(same));
+    }
 }
 
 void tst_PYXStatusHash::warnsOfUnknownFormatVersion()
 {
-    Traces traces;
     PYXStatusHash hash = hashOf({{"old", 1}});
-    QVERIFY(!hash.restoreFrom(Bytes().u32(0).u32(2).u32(0)));
+    const QStringList traces = tracesOf([&] { QVERIFY(!hash.restoreFrom(Bytes().u32(0).u32(2).u32(0))); });
     QVERIFY(hash.isEmpty());
     const QString address = QString::number(quintptr(&hash), 16).rightJustified(8, '0');
-    QCOMPARE(traces.calls, QStringList("Warn|PYXRuntime::PYXStatusHash[0x" + address +
-                                       "]: %3: restoreFrom: unknown version [2]|PYXRuntime|0"));
+    QCOMPARE(traces, QStringList("Warn|PYXRuntime::PYXStatusHash[0x" + address +
+                                 "]: %3: restoreFrom: unknown version [2]|PYXRuntime|0"));
 }
 
-void tst_PYXStatusHash::restoresEveryTypeAtEveryVersion_data()
+void tst_PYXStatusHash::restoresEveryType()
 {
-    QTest::addColumn<int>("version");
-    for (int version = QDataStream::Qt_4_0; version <= QDataStream::Qt_5_15; ++version)
-        QTest::addRow("stream version %d", version) << version;
-}
-
-void tst_PYXStatusHash::restoresEveryTypeAtEveryVersion()
-{
-    QFETCH(int, version);
-    const bool bGui = version <= QDataStream::Qt_4_1 || version >= QDataStream::Qt_4_6;
-    QVariantHash values = coreValues();
-    if (bGui) {
-        const QVariantHash gui = guiValues();
-        for (auto entry = gui.cbegin(); entry != gui.cend(); ++entry)
-            values.insert(entry.key(), entry.value());
-    }
-    if (version >= QDataStream::Qt_5_2) {
-        values.insert("offset", anyTime().toOffsetFromUtc(5400));
-        if (hasNamedZones())
-            values.insert("zone", anyTime().toTimeZone(QTimeZone("Europe/Berlin")));
-        values.insert("zone of an offset", anyTime().toTimeZone(QTimeZone(5400)));
-    }
-    // Icons do not compare; this one only has to be read to its very end.
-    if (bGui)
-        values.insert("icon", QVariantList{QIcon(values.value("pixmap").value<QPixmap>()), "end"});
-    PYXStatusHash hash{QDataStream::Version(version)};
-    for (auto entry = values.cbegin(); entry != values.cend(); ++entry)
-        hash.insert(entry.key(), entry.value());
-    Traces traces;
-    PYXStatusHash restored{QDataStream::Version(version)};
-    QVERIFY(restored.restoreFrom(hash.serialize()));
-    QCOMPARE(traces.calls.join('\n'), QString());
-    QCOMPARE(restored.value("icon").toList().value(1), bGui ? QVariant("end") : QVariant());
-    values.remove("icon");
-    for (auto entry = values.cbegin(); entry != values.cend(); ++entry) {
-        const QVariant &value = restored.value(entry.key());
-        QCOMPARE(value.userType(), entry.value().userType());
-        if (value.userType() == QMetaType::QPixmap)
-            QCOMPARE(value.value<QPixmap>().toImage(), entry.value().value<QPixmap>().toImage());
-        else if (value.userType() == QMetaType::QFont)
-            QCOMPARE(value.value<QFont>().bold(), true);
-        else
-            QVERIFY2(value == entry.value(), qPrintable(entry.key()));
+    QVariantList values = streamedSamples();
+    values << QVariant() << QString::fromUtf8("Gr\u00f6\u00dfe \u20ac") << QDate(1999, 12, 31)
+           << nested(hashOf({{"deep", nested(hashOf({{"x", QRectF(0, 0, .5, 1)}}, 3))}}, 0xFFFFFFFF));
+    for (const auto version : {QDataStream::Qt_4_0, QDataStream::Qt_4_6, QDataStream::Qt_5_15}) {
+        PYXStatusHash hash(version);
+        for (int i = 0; i < values.size(); ++i)
+            hash.insert(QString::number(i), values.at(i));
+        PYXStatusHash restored(version);
+        QVERIFY(restored.restoreFrom(hash.serialize()));
+        for (int i = 0; i < values.size(); ++i) {
+            // A bitmap comes back with the colours of its table exchanged: the same in other bytes.
+            const QVariant &value = restored.value(QString::number(i));
+            const bool bSame = values.at(i).userType() == QMetaType::QBitmap ||
+                               streamed(value, version) == streamed(values.at(i), version);
+            QVERIFY2(bSame, values.at(i).typeName());
+        }
     }
 }
 
@@ -446,31 +254,20 @@ void tst_PYXStatusHash::refusesHostileBytes_data()
     const auto row = [](const char *name, const QByteArray &bytes) { QTest::newRow(name) << bytes; };
     const QByteArray listOfOne = Bytes().u32(9).u8(0).u32(1);
     const QByteArray hashInHash = Bytes().u32(UserType).u8(0).array(TypeName).u32(0).u32(1).u32(1).text("a");
-    QEasingCurve curve(QEasingCurve::InBounce);
-    QByteArray streamedCurve;
-    QDataStream stream(&streamedCurve, QIODevice::WriteOnly);
-    stream.setVersion(QDataStream::Qt_4_6);
-    stream << QVariant(curve);
     row("no entries", Bytes().u32(0).u32(1));
     row("more entries than bytes", Bytes().u32(0).u32(1).u32(0xFFFFFFFF));
     row("one entry too few", Bytes().u32(0).u32(1).u32(2).text("a").u32(2).u8(0).u32(5));
     row("long key", Bytes().u32(0).u32(1).u32(1).u32(0x7FFFFFFE).u32(0));
     row("half a character", Bytes().u32(0).u32(1).u32(1).u32(3).raw("abc").u32(2).u8(0).u32(5));
-    row("long list", oneEntry().u32(9).u8(0).u32(0x40000000));
-    row("long list of texts", oneEntry().u32(11).u8(0).u32(0x7FFFFFFF).u32(0));
-    row("long bit array", oneEntry().u32(13).u8(0).u32(0xFFFFFFFF));
     row("unknown type", oneEntry().u32(126).u8(0).u32(0));
-    row("type beyond all", oneEntry().u32(0x7FFFFFFF).u8(0).u32(0));
     row("unknown named type", oneEntry().u32(UserType).u8(0).array(QByteArray("No::Such", 9)).u32(0));
     row("nameless type", oneEntry().u32(UserType).u8(0).u32(0xFFFFFFFF));
-    row("object pointer", oneEntry().u32(UserType).u8(0).array(QByteArray("QObject*", 9)).u32(0).u32(0));
-    row("address of a function", oneEntry().raw(streamedCurve));
     row("nested hash of another format", oneEntry().u32(UserType).u8(0).array(TypeName).u32(0).u32(2).u32(0));
     row("nested hash with a lying count",
         oneEntry().u32(UserType).u8(0).array(TypeName).u32(0).u32(1).u32(0x7FFFFFFF));
-    row("lists in lists", oneEntry().repeated(listOfOne, DeepLevels).u32(2).u8(0).u32(5));
-    row("hashes in hashes", oneEntry().repeated(hashInHash, DeepLevels).u32(2).u8(0).u32(5));
-    row("hashes in hashes, one too many", oneEntry().repeated(hashInHash, 99).u32(2).u8(0).u32(5));
+    row("lists in lists", oneEntry().raw(listOfOne.repeated(DeepLevels)).u32(2).u8(0).u32(5));
+    row("hashes in hashes", oneEntry().raw(hashInHash.repeated(DeepLevels)).u32(2).u8(0).u32(5));
+    row("hashes in hashes, one too many", oneEntry().raw(hashInHash.repeated(99)).u32(2).u8(0).u32(5));
 }
 
 void tst_PYXStatusHash::refusesHostileBytes()
@@ -478,12 +275,11 @@ void tst_PYXStatusHash::refusesHostileBytes()
     QFETCH(QByteArray, bytes);
     QElapsedTimer timer;
     timer.start();
-    Traces traces;
     PYXStatusHash hash = hashOf({{"old", 1}});
-    QVERIFY(!hash.restoreFrom(bytes));
+    const QStringList traces = tracesOf([&] { QVERIFY(!hash.restoreFrom(bytes)); });
     QVERIFY(hash.isEmpty());
-    QVERIFY(traces.calls.value(0).endsWith("]: %3: restoreFrom: the entries are damaged|PYXRuntime|0"));
-    QCOMPARE(traces.calls.size(), 1);
+    QVERIFY(traces.value(0).endsWith("]: %3: restoreFrom: the entries are damaged|PYXRuntime|0"));
+    QCOMPARE(traces.size(), 1);
 
     QDataStream stream(bytes);
     stream.setVersion(QDataStream::Qt_4_6);
@@ -498,47 +294,21 @@ void tst_PYXStatusHash::refusesHostileBytes()
     QVERIFY(timer.elapsed() < 2000);
 }
 
-void tst_PYXStatusHash::refusesZonesThatAreNone()
+void tst_PYXStatusHash::takesZonesThatCanBeWritten()
 {
-    const SilentScope silence;
     const auto isRestored = [](const QByteArray &zone, int spec = Qt::TimeZone) {
         const QByteArray moment = Bytes().u32(0).u32(2461000).u32(1000).u8(spec);
         return PYXStatusHash(QDataStream::Qt_5_15)
             .restoreFrom(oneEntry().u32(QMetaType::QDateTime).u8(0).raw(moment).raw(zone));
     };
-    const Bytes offset = Bytes().text("OffsetFromUtc");
     const Bytes names = Bytes().u32(3600).text("n").text("a").u32(0).text("");
-    QCOMPARE(isRestored(Bytes().text("Europe/Berlin")), hasNamedZones());
-    QVERIFY(isRestored(Bytes(offset).text("Own").raw(names)));
+    const bool bNamedZones = QTimeZone("Europe/Berlin").isValid(); // not every system has a table of them
+    QCOMPARE(isRestored(Bytes().text("Europe/Berlin")), bNamedZones);
+    QVERIFY(isRestored(Bytes().text("OffsetFromUtc").text("Own").raw(names)));
     QVERIFY(!isRestored(Bytes().text("Europe/Nowhere"))); // QTimeZone reads it but cannot write it
     QVERIFY(isRestored(QByteArray(), Qt::UTC));
     QVERIFY(!isRestored(QByteArray(), -1));
     QVERIFY(!isRestored(Bytes().text("../zoneinfo/Europe/Berlin")));
-}
-
-void tst_PYXStatusHash::bearsDamagedBytes()
-{
-    PYXStatusHash hash;
-    const QVariantHash values = coreValues();
-    for (auto entry = values.cbegin(); entry != values.cend(); ++entry)
-        hash.insert(entry.key(), entry.value());
-    const QByteArray whole = hash.serialize();
-    const SilentScope silence;
-    const Traces quiet;
-    for (int length = 1; length < whole.size(); ++length)
-        QVERIFY2(!hash.restoreFrom(whole.left(length)), QByteArray::number(length).constData());
-    QVERIFY(hash.restoreFrom(whole));
-    for (int i = 0; i < 3000; ++i) {
-        QByteArray damaged = whole;
-        for (int changes = QRandomGenerator::global()->bounded(1, 4); changes > 0; --changes)
-            damaged[QRandomGenerator::global()->bounded(8, damaged.size())] =
-                char(QRandomGenerator::global()->bounded(256));
-        PYXStatusHash restored;
-        if (restored.restoreFrom(damaged)) // what is accepted can be used
-            QVERIFY(PYXStatusHash().restoreFromXml(restored.toXml()));
-        else
-            QVERIFY(restored.isEmpty());
-    }
 }
 
 void tst_PYXStatusHash::writesTheXmlForm()
@@ -552,9 +322,7 @@ void tst_PYXStatusHash::writesTheXmlForm()
     hash.insert("double", 0.1);
     hash.insert("empty", "");
     hash.insert("text", QString::fromUtf8("<\u00e4 & \"b\">\n "));
-    hash.insert("point", QPointF(0.5, 1));
-    hash.insert("rect", QRect(1, 2, 3, 4));
-    hash.insert("line", QLine(1, 2, 3, 4));
+    hash.insert("size", QSizeF(0.5, 1));
     hash.insert("hash", QVariantHash{{"y", 1}, {"x", QVariantHash()}});
     hash.insert("inner", hashOf({{"c", false}}, 7));
     hash.insert("bytes", QByteArray("a%\xff"));
@@ -574,41 +342,13 @@ void tst_PYXStatusHash::writesTheXmlForm()
                                 "            <c type=\"Bool\">false</c>\n"
                                 "        </StatusHash>\n"
                                 "    </inner>\n"
-                                "    <line type=\"Line\">\n"
-                                "        <Line>\n"
-                                "            <Point1>\n"
-                                "                <Point>\n"
-                                "                    <X>1</X>\n"
-                                "                    <Y>2</Y>\n"
-                                "                </Point>\n"
-                                "            </Point1>\n"
-                                "            <Point2>\n"
-                                "                <Point>\n"
-                                "                    <X>3</X>\n"
-                                "                    <Y>4</Y>\n"
-                                "                </Point>\n"
-                                "            </Point2>\n"
-                                "        </Line>\n"
-                                "    </line>\n"
                                 "    <long type=\"LongLong\">-5000000000</long>\n"
-                                "    <point type=\"PointF\">\n"
-                                "        <PointF>\n"
-                                "            <X>0.5000000000</X>\n"
-                                "            <Y>1.0000000000</Y>\n"
-                                "        </PointF>\n"
-                                "    </point>\n"
-                                "    <rect type=\"Rect\">\n"
-                                "        <Rect>\n"
-                                "            <Point>\n"
-                                "                <X>1</X>\n"
-                                "                <Y>2</Y>\n"
-                                "            </Point>\n"
-                                "            <Size>\n"
-                                "                <Width>3</Width>\n"
-                                "                <Height>4</Height>\n"
-                                "            </Size>\n"
-                                "        </Rect>\n"
-                                "    </rect>\n"
+                                "    <size type=\"SizeF\">\n"
+                                "        <SizeF>\n"
+                                "            <Width>0.5000000000</Width>\n"
+                                "            <Height>1.0000000000</Height>\n"
+                                "        </SizeF>\n"
+                                "    </size>\n"
                                 "    <text type=\"String\">&lt;\xc3\xa4 &amp; &quot;b&quot;&gt;\n </text>\n"
                                 "    <ulong type=\"ULongLong\">18446744073709551615</ulong>\n"
                                 "</StatusHash>";
@@ -632,11 +372,11 @@ void tst_PYXStatusHash::writesAnyKey()
     PYXStatusHash hash;
     for (const QString &key : names + others)
         hash.insert(key, key.size());
-    Traces traces;
-    const QByteArray xml = hash.toXml();
-    QCOMPARE(traces.calls.size(), others.size());
-    QVERIFY(traces.calls.first().startsWith("Warn|PYXStatusHash: the key '' is no name in XML|"
-                                            "source\\PYXStatusHash|"));
+    QByteArray xml;
+    const QStringList traces = tracesOf([&] { xml = hash.toXml(); });
+    QCOMPARE(traces.size(), others.size());
+    QVERIFY(traces.first().startsWith("Warn|PYXStatusHash: the key '' is no name in XML|"
+                                      "source\\PYXStatusHash|"));
     QVERIFY(xml.contains("<Entry key=\"a b\" type=\"Int\">3</Entry>"));
     QVERIFY(xml.contains("<Entry type=\"Int\">5</Entry>"));
     QVERIFY(PYXStatusHash::fromXml(xml) == hash);
@@ -644,21 +384,12 @@ void tst_PYXStatusHash::writesAnyKey()
 
 void tst_PYXStatusHash::keepsTextsThatXmlCannotHold()
 {
-    const QString zero(QChar(0));
-    const QStringList texts = {"\r",
-                               "a\r\nb\rc",
-                               "  ",
-                               "\n",
-                               "\x01",
-                               zero,
-                               "a" + QString(QChar(0xD800)),
-                               QString(QChar(0xDC00)) + QChar(0xD800),
-                               QString(QChar(0xFFFF)),
-                               "]]>",
-                               QString::fromUtf8("\U0001F4E1")};
+    const auto unit = [](ushort c) { return QString(QChar(c)); };
     PYXStatusHash hash;
-    for (int i = 0; i < texts.size(); ++i)
-        hash.insert(QString("t%1").arg(i), texts.at(i));
+    for (const QString &text :
+         {QString("a\r\nb\rc"), QString("  "), QString("\n"), QString("]]>"), unit(0), unit(1), unit(0xD800),
+          unit(0xDC00) + unit(0xD800), unit(0xFFFF), QString::fromUtf8("\U0001F4E1")})
+        hash.insert("t" + QString::number(hash.keys().size()), text);
     QVERIFY(PYXStatusHash::fromXml(hash.toXml()) == hash);
 }
 
@@ -742,37 +473,42 @@ void tst_PYXStatusHash::refusesHostileXml()
     QFETCH(QString, report);
     QElapsedTimer timer;
     timer.start();
-    Traces traces;
     PYXStatusHash hash = hashOf({{"old", 1}});
-    QVERIFY(!hash.restoreFromXml(xml));
-    QCOMPARE(traces.calls.size(), 1);
-    QVERIFY2(traces.calls.first().startsWith(report), qPrintable(traces.calls.first()));
+    const QStringList traces = tracesOf([&] { QVERIFY(!hash.restoreFromXml(xml)); });
+    QCOMPARE(traces.size(), 1);
+    QVERIFY2(traces.first().startsWith(report), qPrintable(traces.first()));
     QCOMPARE(hash.keys(), QStringList("old"));
     QVERIFY(timer.elapsed() < 2000);
 }
 
-void tst_PYXStatusHash::bearsDamagedXml()
+void tst_PYXStatusHash::bearsDamage()
 {
-    const PYXStatusHash whole = hashOf({{"a", "text"},
-                                        {"p", QPoint(1, 2)},
-                                        {"h", QVariantHash{{"b", true}}},
-                                        {"v", QVariantList{1, 2}},
-                                        {"s", nested(hashOf({{"x", 1}}))}});
-    const QByteArray xml = whole.toXml();
-    const Traces quiet;
-    PYXStatusHash hash = hashOf({{"old", 1}});
-    for (int length = 1; length < xml.size(); ++length)
-        QVERIFY2(!hash.restoreFromXml(xml.left(length)), QByteArray::number(length).constData());
-    QCOMPARE(hash.keys(), QStringList("old"));
-    for (int i = 0; i < 2000; ++i) {
-        QByteArray damaged = xml;
-        damaged[QRandomGenerator::global()->bounded(damaged.size())] =
-            char(QRandomGenerator::global()->bounded(256));
+    const PYXStatusHash hash =
+        hashOf({{"a", "text"},
+                {"h", QVariantHash{{"b", true}}},
+                {"v", QVariantList{1, QDateTime::currentDateTimeUtc(), QUrl("http://a/")}},
+                {"s", nested(hashOf({{"x", QPoint(1, 2)}}))}});
+    const RecordingTracer quiet;
+    const quint32 seed = QRandomGenerator::global()->generate();
+    QRandomGenerator random(seed);
+    for (const bool bXml : {false, true}) {
+        const QByteArray whole = bXml ? hash.toXml() : hash.serialize();
         PYXStatusHash restored;
-        if (restored.restoreFromXml(damaged))
-            QVERIFY(PYXStatusHash::fromXml(restored.toXml()) == restored);
-        else
-            QVERIFY(restored.isEmpty());
+        const auto restore = [&](const QByteArray &bytes) {
+            restored = PYXStatusHash();
+            return bXml ? restored.restoreFromXml(bytes) : restored.restoreFrom(bytes);
+        };
+        for (int length = 1; length < whole.size(); ++length)
+            QVERIFY2(!restore(whole.left(length)) && restored.isEmpty(),
+                     QByteArray::number(length).constData());
+        for (int i = 0; i < 3000; ++i) {
+            QByteArray damaged = whole;
+            for (int changes = random.bounded(1, 4); changes > 0; --changes)
+                damaged[random.bounded(bXml ? 0 : 8, damaged.size())] = char(random.bounded(256));
+            const bool bGood =
+                restore(damaged) ? PYXStatusHash().restoreFromXml(restored.toXml()) : restored.isEmpty();
+            QVERIFY2(bGood, qPrintable(QString("seed %1, round %2").arg(seed).arg(i)));
+        }
     }
 }
 
@@ -801,32 +537,44 @@ void tst_PYXStatusHash::leavesOutWhatCouldNotBeRestored()
     PYXStatusHash hash = hashOf({{"good", 1}});
     hash.insert("unstreamable", QVariant::fromValue(struUnstreamable()));
     hash.insert("deep", deep);
-    Traces traces;
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("QVariant::save"));
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("QVariant::save"));
+    for (int i = 0; i < 3; ++i)
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("QVariant::save"));
     PYXStatusHash restored;
-    QVERIFY(restored.restoreFrom(hash.serialize()));
-    QCOMPARE(restored.keys(), QStringList("good"));
-    QCOMPARE(traces.calls.filter("could not be restored and is not saved").size(), 2);
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("QVariant::save"));
-    QVERIFY(restored.restoreFromXml(hash.toXml()));
-    QVERIFY(restored.contains("good"));
-    QVERIFY(!restored.contains("unstreamable"));
-    QCOMPARE(traces.calls.filter("could not be restored and is not saved").size(), 4);
+    const QStringList traces = tracesOf([&] {
+        QVERIFY(restored.restoreFrom(hash.serialize()));
+        QCOMPARE(restored.keys(), QStringList("good"));
+        QVERIFY(restored.restoreFromXml(hash.toXml()));
+        QVERIFY(restored.contains("good") && !restored.contains("unstreamable"));
+    });
+    QCOMPARE(traces.filter("could not be restored and is not saved").size(), 4);
 }
 
 void tst_PYXStatusHash::roundTripsRandomContent()
 {
-    const Traces quiet;
+    const RecordingTracer quiet;
+    const quint32 seed = QRandomGenerator::global()->generate();
+    QRandomGenerator random(seed);
     for (int i = 0; i < 200; ++i) {
-        const PYXStatusHash hash = anyHash();
+        PYXStatusHash hash;
+        QVariantHash inner;
+        for (int entries = 0; entries < 8; ++entries) {
+            hash.insert(randomKey(random), randomValue(random, 1));
+            inner.insert(randomKey(random), randomValue(random, 1));
+        }
+        hash.insert("hash", inner);
+        hash.insert("status", hashOf(inner, 9));
         const PYXStatusHash fromBytes = PYXStatusHash::fromSerialized(hash.serialize());
-        QVERIFY2(fromBytes == hash, hash.toXml().constData());
-        const QByteArray xml = hash.toXml();
-        QVERIFY2(PYXStatusHash::fromXml(xml) == hash, xml.constData());
+        const PYXStatusHash fromXml = PYXStatusHash::fromXml(hash.toXml());
+        QCOMPARE(fromXml.keys().size(), hash.keys().size());
         const QStringList keys = hash.keys();
-        for (const QString &key : keys) // QVariant also takes a number for its text
-            QCOMPARE(fromBytes.value(key).userType(), hash.value(key).userType());
+        for (const QString &key : keys) {
+            const QByteArray expected = contentOf(hash.value(key));
+            const bool bSame =
+                contentOf(fromBytes.value(key)) == expected && contentOf(fromXml.value(key)) == expected;
+            QVERIFY2(
+                bSame,
+                qPrintable(QString("seed %1, %2").arg(QString::number(seed), hash.value(key).typeName())));
+        }
     }
 }
 
@@ -850,23 +598,9 @@ void tst_PYXStatusHash::comparesByContent()
     QCOMPARE(inner.value("a"), QVariant(1));
 }
 
-void tst_PYXStatusHash::livesInSettings()
-{
-    const QTemporaryDir directory;
-    const PYXStatusHash whole =
-        hashOf({{"a", "x"}, {"s", nested(hashOf({{"x", QRectF(0, 0, .5, .5)}}))}}, 77);
-    for (const QSettings::Format format : {PYXRuntime::PYXXmlSettings::format(), QSettings::IniFormat}) {
-        const QString file = directory.filePath(QString::number(format));
-        QSettings(file, format).setValue("state", nested(whole));
-        const QVariant read = QSettings(file, format).value("state");
-        QCOMPARE(read.userType(), QMetaType::type("PYXRuntime::PYXStatusHash"));
-        QVERIFY(read.value<PYXStatusHash>() == whole);
-    }
-}
-
 void tst_PYXStatusHash::streamsInsideOtherData()
 {
-    const PYXStatusHash whole = anyHash();
+    const PYXStatusHash whole = hashOf({{"r", QRectF(0, 0, .1, 1)}, {"s", nested(hashOf({{"x", 1}}, 3))}});
     QBuffer buffer;
     buffer.open(QIODevice::ReadWrite);
     QDataStream stream(&buffer);

@@ -26,15 +26,6 @@ namespace {
 
 using Write = void (*)(QDataStream &);
 
-QByteArray streamed(const QVariant &value, int version)
-{
-    QByteArray bytes;
-    QDataStream stream(&bytes, QIODevice::WriteOnly);
-    stream.setVersion(version);
-    stream << value;
-    return bytes;
-}
-
 QByteArray streamed(Write write)
 {
     QByteArray bytes;

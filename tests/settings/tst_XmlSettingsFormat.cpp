@@ -43,59 +43,6 @@ QByteArray entry(const QByteArray &name, const QByteArray &value)
     return "<entry><name>" + name + "</name><value>" + value + "</value></entry>";
 }
 
-QVariant randomText(QRandomGenerator &random)
-{
-    QString text(""); // not null: a file does not tell the two apart
-    for (int length = random.bounded(12); length > 0; --length) {
-        const int kind = random.bounded(4);
-        text += QChar(kind == 0 ? random.bounded(0x10000) : " ,@~#&;<a()1\n"[random.bounded(13)]);
-    }
-    return text;
-}
-
-QVariant randomValue(QRandomGenerator &random, int level)
-{
-    static const QVariantList streamed = [] {
-        QVariantList samples = streamedSamples();
-        // Its image comes back with the colours of its table exchanged: the same bitmap in other bytes.
-        const auto isBitmap = [](const QVariant &value) { return value.userType() == QMetaType::QBitmap; };
-        samples.erase(std::remove_if(samples.begin(), samples.end(), isBitmap), samples.end());
-        return samples;
-    }();
-    const int number = int(random.generate());
-    switch (random.bounded(level > 2 ? 9 : 13)) {
-    case 0:
-        return number;
-    case 1:
-        return double(number) / 7;
-    case 2:
-        return number < 0;
-    case 3:
-        return QRect(number % 1000, 1, 2, random.bounded(99));
-    case 4:
-        return QByteArray::number(number) + '\0' + char(number);
-    case 5:
-        return QDateTime(QDate(2000, 1, 1).addDays(number % 99999), QTime(12, 1), Qt::OffsetFromUTC,
-                         level == 0 ? number % 50000 : 0);
-    case 6:
-        return streamed.at(random.bounded(streamed.size()));
-    case 7:
-        return QColor::fromRgb(QRgb(number));
-    case 8:
-        return randomText(random);
-    case 9:
-        return QStringList{randomText(random).toString(), randomText(random).toString()};
-    case 10:
-        return QVariantMap{{randomText(random).toString(), randomValue(random, level + 1)}};
-    default: {
-        QVariantList list;
-        for (int length = random.bounded(4); length > 0; --length)
-            list.append(randomValue(random, level + 1));
-        return list;
-    }
-    }
-}
-
 Map randomMap(QRandomGenerator &random)
 {
     Map map;
@@ -109,7 +56,7 @@ Map randomMap(QRandomGenerator &random)
                                      "07",
                                      "size",
                                      "k-" + QString::number(count),
-                                     randomText(random).toString().remove('/') + 'x'};
+                                     randomText(random).remove('/') + 'x'};
             segments.append(names[random.bounded(8)]);
         }
         map.insert(segments.join('/'), segments.last() == "size" ? QVariant(count) : randomValue(random, 0));
@@ -148,12 +95,9 @@ QVariant asRead(const QVariant &value)
 /** Types and contents: QVariant compares many types by address, and streams date-times without offsets. */
 QByteArray contentOf(const QVariant &value)
 {
-    QByteArray bytes;
-    QDataStream stream(&bytes, QIODevice::WriteOnly);
-    stream.setVersion(QDataStream::Qt_4_0);
-    stream << value;
     const QDateTime time = value.userType() == QMetaType::QDateTime ? value.toDateTime() : QDateTime();
-    return bytes + QByteArray::number(time.toMSecsSinceEpoch()) + QByteArray::number(time.offsetFromUtc());
+    return streamed(value, QDataStream::Qt_4_0) + QByteArray::number(time.toMSecsSinceEpoch()) +
+           QByteArray::number(time.offsetFromUtc());
 }
 
 /** The most memory that this process ever had, in bytes; 0 where the system does not tell. */
