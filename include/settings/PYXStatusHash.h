@@ -67,7 +67,10 @@ public:
     quint32 magicNumber() const { return m_magicNumber; }
     /** Keeps the number but accepts data with any other from now on. */
     void unsetMagicNumber() { m_bMagicFixed = false; }
-    /** Of the binary form. With those of Qt 4.2 to 4.5, it holds types of QtCore only. */
+    /**
+     * Of the binary form. With those of Qt 4.2 to 4.5, it holds types of QtCore only; with those before
+     * Qt 5.2, as in XML, date-times keep their clock but not their offset or zone.
+     */
     QDataStream::Version datastreamVersion() const { return m_streamVersion; }
 
     /** The binary form; an empty array if the hash was never changed. */

@@ -21,7 +21,7 @@ bool DomElementCursor::enterChild()
 
 QString DomElementCursor::takeText()
 {
-    QString text; // QDomElement::text() goes as deep as the document does
+    QString text(QLatin1String("")); // QDomElement::text() goes as deep as the document does
     for (QDomNode node = m_element.firstChild(); !node.isNull(); node = node.nextSibling()) {
         if (node.isText() || node.isCDATASection())
             text += node.toText().data();

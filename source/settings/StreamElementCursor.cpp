@@ -30,7 +30,7 @@ bool StreamElementCursor::enterChild()
 
 QString StreamElementCursor::takeText()
 {
-    QString text;
+    QString text(QLatin1String(""));
     while (!m_xml.atEnd()) {
         switch (_advance()) {
         case QXmlStreamReader::Characters:

@@ -23,7 +23,7 @@ public:
     virtual QString tag() const = 0;
     virtual bool hasAttribute(QLatin1String name) const = 0;
     virtual QString attribute(QLatin1String name) const = 0;
-    /** The text that stands directly in the current element; leaves the element. */
+    /** The text that stands directly in the current element, never null; leaves the element. */
     virtual QString takeText() = 0;
     /** Leaves the current element with all that is in it. */
     virtual void skip() = 0;

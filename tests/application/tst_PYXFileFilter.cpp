@@ -44,13 +44,10 @@ private slots:
     void cleanup();
     void nameFiltersComeByName();
     void dialogsBeginWhereTheLastOneEnded();
-    void placesThatAreGoneAreLeft();
     void changedSettingsMoveBoundDialogs();
     void openingRemembersTheFile();
-    void savingAddsTheSuffixOfTheFilter_data();
     void savingAddsTheSuffixOfTheFilter();
-    void choosingADirectory();
-    void cancellingChangesNothing();
+    void choosingADirectoryOrNothing();
 
 private:
     QString path(const QString &name) const { return m_home->path(name); }
@@ -116,17 +113,12 @@ void tst_PYXFileFilter::dialogsBeginWhereTheLastOneEnded()
     QCOMPARE(PYXFileFilter(PYXIApplicationInfo::eOrganizationSharedScriptsDir, {}).startPlace(),
              path("recordings"));
     QCOMPARE(m_recordings.startPlace(), recording);
-}
-
-void tst_PYXFileFilter::placesThatAreGoneAreLeft()
-{
-    const QString recording = createdFile("recordings/a.wav");
-    m_recordings.setLastFileOrDir(recording);
+    // Places that are gone are left.
     QVERIFY(QFile::remove(recording));
     QCOMPARE(m_recordings.startPlace(), path("recordings"));
     QVERIFY(QDir().rmdir(path("recordings")));
     QCOMPARE(m_recordings.startPlace(), path("shell5"));
-    QVERIFY(QDir().rmdir(path("shell5")));
+    QVERIFY(QDir(path("shell5")).removeRecursively());
     QCOMPARE(m_recordings.startPlace(), QDir::homePath());
 }
 
@@ -164,62 +156,42 @@ void tst_PYXFileFilter::openingRemembersTheFile()
     QCOMPARE(m_recordings.getOpenFileNames(nullptr, "Open"), (QStringList{recording, other}));
 }
 
-void tst_PYXFileFilter::savingAddsTheSuffixOfTheFilter_data()
-{
-    QTest::addColumn<QString>("filter");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("saved");
-    QTest::newRow("first pattern") << "Recordings (*.wav *.flac)"
-                                   << "new"
-                                   << "new.wav";
-    QTest::newRow("typed") << "Recordings (*.wav *.flac)"
-                           << "new.flac"
-                           << "new.flac";
-    QTest::newRow("two parts") << "Scripts (all) (*.tar.gz)"
-                               << "new"
-                               << "new.tar.gz";
-    QTest::newRow("any name") << "All files (*)"
-                              << "new"
-                              << "new";
-    QTest::newRow("as proposed") << "Recordings (*.wav *.flac)"
-                                 << ""
-                                 << "proposal.wav";
-}
-
 void tst_PYXFileFilter::savingAddsTheSuffixOfTheFilter()
 {
-    QFETCH(QString, filter);
-    QFETCH(QString, typed);
-    QFETCH(QString, saved);
+    const char *const recordings = "Recordings (*.wav *.flac)";
+    const char *const rows[][3] = {{recordings, "new", "new.wav"},
+                                   {recordings, "new.flac", "new.flac"},
+                                   {"Scripts (all) (*.tar.gz)", "new", "new.tar.gz"},
+                                   {"All files (*)", "new", "new"},
+                                   {recordings, "proposal", "proposal.wav"}};
     const PYXFileFilter files("Saving", {"Recordings", "Scripts"});
-    inNextDialog([&](QFileDialog &dialog) {
-        dialog.selectNameFilter(filter);
-        Q_EMIT dialog.filterSelected(filter);
-        choose(dialog, typed.isEmpty() ? dialog.findChild<QLineEdit *>("fileNameEdit")->text() : typed);
-    });
-    QCOMPARE(files.getSaveFileName(nullptr, "Save", "proposal"), path("shell5/" + saved));
-    QCOMPARE(files.lastFileOrDir(), path("shell5/" + saved));
+    for (const auto &[filter, typed, saved] : rows) {
+        const QString nameFilter(filter);
+        const QString name(typed);
+        inNextDialog([=](QFileDialog &dialog) {
+            dialog.selectNameFilter(nameFilter);
+            Q_EMIT dialog.filterSelected(nameFilter);
+            const QString proposed = dialog.findChild<QLineEdit *>("fileNameEdit")->text();
+            choose(dialog, name == "proposal" ? proposed : name);
+        });
+        QCOMPARE(files.getSaveFileName(nullptr, "Save", "proposal"), path("shell5/") + saved);
+        QCOMPARE(files.lastFileOrDir(), path("shell5/") + saved);
+    }
 }
 
-void tst_PYXFileFilter::choosingADirectory()
+void tst_PYXFileFilter::choosingADirectoryOrNothing()
 {
     QVERIFY(QDir().mkpath(path("shell5/below")));
     inNextDialog([](QFileDialog &dialog) { choose(dialog, "below"); });
     QCOMPARE(m_recordings.getExistingDirectory(nullptr, "Choose"), path("shell5/below"));
-    QCOMPARE(m_recordings.startPlace(), path("shell5/below"));
-}
-
-void tst_PYXFileFilter::cancellingChangesNothing()
-{
-    m_recordings.setLastFileOrDir(path("shell5"));
-    QString proposed;
+    QString proposed("none yet");
     inNextDialog([&](QFileDialog &dialog) {
         proposed = dialog.findChild<QLineEdit *>("fileNameEdit")->text();
         dialog.reject();
     });
     QCOMPARE(m_recordings.getSaveFileName(nullptr, "Save"), QString());
     QCOMPARE(proposed, QString());
-    QCOMPARE(m_recordings.lastFileOrDir(), path("shell5"));
+    QCOMPARE(m_recordings.lastFileOrDir(), path("shell5/below"));
 }
 
 QTEST_MAIN(tst_PYXFileFilter)

@@ -85,3 +85,66 @@ inline QVariantList streamedSamples()
         QVariant::fromValue(QColorSpace(QColorSpace::SRgb)),
     };
 }
+
+inline QByteArray streamed(const QVariant &value, int version)
+{
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    stream.setVersion(version);
+    stream << value;
+    return bytes;
+}
+
+/** Not null: files do not tell the two apart. */
+inline QString randomText(QRandomGenerator &random)
+{
+    QString text("");
+    for (int length = random.bounded(12); length > 0; --length) {
+        const int kind = random.bounded(4);
+        text += QChar(kind == 0 ? random.bounded(0x10000) : " ,@~#&;<a()1\n"[random.bounded(13)]);
+    }
+    return text;
+}
+
+inline QVariant randomValue(QRandomGenerator &random, int level)
+{
+    static const QVariantList streamedValues = [] {
+        QVariantList samples = streamedSamples();
+        // Its image comes back with the colours of its table exchanged: the same bitmap in other bytes.
+        const auto isBitmap = [](const QVariant &value) { return value.userType() == QMetaType::QBitmap; };
+        samples.erase(std::remove_if(samples.begin(), samples.end(), isBitmap), samples.end());
+        return samples;
+    }();
+    const int number = int(random.generate());
+    switch (random.bounded(level > 2 ? 9 : 13)) {
+    case 0:
+        return number;
+    case 1:
+        return double(number) / 7;
+    case 2:
+        return number < 0;
+    case 3:
+        return QRect(number % 1000, 1, 2, random.bounded(99));
+    case 4:
+        return QByteArray::number(number) + '\0' + char(number);
+    case 5:
+        return QDateTime(QDate(2000, 1, 1).addDays(number % 99999), QTime(12, 1), Qt::OffsetFromUTC,
+                         level == 0 ? number % 50000 : 0);
+    case 6:
+        return streamedValues.at(random.bounded(streamedValues.size()));
+    case 7:
+        return QColor::fromRgb(QRgb(number));
+    case 8:
+        return randomText(random);
+    case 9:
+        return QStringList{randomText(random), randomText(random)};
+    case 10:
+        return QVariantMap{{randomText(random), randomValue(random, level + 1)}};
+    default: {
+        QVariantList list;
+        for (int length = random.bounded(4); length > 0; --length)
+            list.append(randomValue(random, level + 1));
+        return list;
+    }
+    }
+}

@@ -2,40 +2,14 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "PYXStatusHash.h"
 
-#include "PYXRuntimeCenter.h"
-#include "PYXTraceWrapper.h"
 #include "PYXXmlSettings.h"
 #include "RecordingTracer.h"
+#include "SampleValues.h"
 
-#include <QtCore/QBitArray>
-#include <QtCore/QBuffer>
-#include <QtCore/QEasingCurve>
-#include <QtCore/QElapsedTimer>
-#include <QtCore/QLine>
-#include <QtCore/QRandomGenerator>
-#include <QtCore/QRect>
-#include <QtCore/QRegularExpression>
-#include <QtCore/QSettings>
-#include <QtCore/QTemporaryDir>
-#include <QtCore/QTimeZone>
-#include <QtCore/QUrl>
-#include <QtCore/QUuid>
-#include <QtCore/QXmlStreamWriter>
-#include <QtGui/QBrush>
-#include <QtGui/QFont>
-#include <QtGui/QIcon>
-#include <QtGui/QImage>
-#include <QtGui/QKeySequence>
-#include <QtGui/QMatrix4x4>
-#include <QtGui/QPalette>
-#include <QtGui/QPen>
-#include <QtGui/QPixmap>
 #include <QtTest/QTest>
 #include <QtXml/QDomDocument>
 
-using PYXRuntime::PYXRuntimeCenter;
 using PYXRuntime::PYXStatusHash;
-using PYXRuntime::PYXTraceWrapper;
 
 struct struUnstreamable
 {
@@ -51,68 +25,37 @@ constexpr quint32 NewUserType = 1024;
 const QByteArray TypeName("PYXRuntime::PYXStatusHash",
                           int(sizeof "PYXRuntime::PYXStatusHash")); // with its NUL
 
-/** Puts bytes together by hand, numbers big-endian. */
-class Bytes
+/** Numbers and texts in the form of QDataStream, one after the other. */
+template <typename... Parts>
+QByteArray bytesOf(const Parts &...parts)
 {
-public:
-    Bytes &u8(int value)
-    {
-        m_data.append(char(value));
-        return *this;
-    }
-    Bytes &u32(quint32 value)
-    {
-        return u8(int(value >> 24)).u8(int(value >> 16)).u8(int(value >> 8)).u8(int(value));
-    }
-    Bytes &raw(const QByteArray &bytes)
-    {
-        m_data.append(bytes);
-        return *this;
-    }
-    Bytes &array(const QByteArray &bytes) { return u32(quint32(bytes.size())).raw(bytes); }
-    Bytes &text(const QByteArray &ascii)
-    {
-        u32(quint32(ascii.size() * 2));
-        for (const char c : ascii)
-            u8(0).u8(c);
-        return *this;
-    }
-    Bytes &repeated(const QByteArray &bytes, int times) { return raw(bytes.repeated(times)); }
-    operator QByteArray() const { return m_data; }
-
-private:
-    QByteArray m_data;
-};
-
-/** Begin of a form with one entry "a". */
-Bytes oneEntry(quint32 magic = 0)
-{
-    return Bytes().u32(magic).u32(1).u32(1).text("a");
+    QByteArray bytes;
+    QDataStream stream(&bytes, QIODevice::WriteOnly);
+    (stream << ... << parts);
+    return bytes;
 }
 
-/** Collects the traces while it lives. */
-class Traces : public RecordingTracer
-{
-public:
-    Traces() { PYXTraceWrapper::addTracer(this); }
-    ~Traces() override { PYXTraceWrapper::removeTracer(this); }
-};
+constexpr quint8 NotNull = 0;
 
-/** No lines of the library's scope while it lives. */
-class SilentScope
+/** Begin of a form with one entry "a". */
+QByteArray oneEntry(quint32 magic = 0)
 {
-public:
-    SilentScope() { PYXRuntimeCenter::setEnabled_pyxWarning("PYXRuntime", false); }
-    ~SilentScope() { PYXRuntimeCenter::setEnabled_pyxWarning("PYXRuntime", true); }
-};
+    return bytesOf(magic, 1U, 1U, QString("a"));
+}
 
-PYXStatusHash hashOf(std::initializer_list<std::pair<QString, QVariant>> entries, quint32 magic = 0)
+/** Begin of a value that is a status hash. */
+QByteArray nestedBegin(quint32 type = UserType)
+{
+    return bytesOf(type, NotNull, TypeName);
+}
+
+PYXStatusHash hashOf(const QVariantHash &entries, quint32 magic = 0)
 {
     PYXStatusHash hash;
     if (magic != 0)
         hash = PYXStatusHash(magic);
-    for (const auto &entry : entries)
-        hash.insert(entry.first, entry.second);
+    for (auto entry = entries.cbegin(); entry != entries.cend(); ++entry)
+        hash.insert(entry.key(), entry.value());
     return hash;
 }
 
@@ -121,128 +64,23 @@ QVariant nested(const PYXStatusHash &hash)
     return QVariant::fromValue(hash);
 }
 
-QDateTime anyTime()
+/** Types and contents: QVariant compares many types by address. Hashes have no order of their own. */
+QByteArray contentOf(const QVariant &value)
 {
-    return QDateTime(QDate(2026, 3, 1), QTime(12, 30, 15, 250), Qt::UTC);
-}
-
-/** Not every system has a table of zones. */
-bool hasNamedZones()
-{
-    return QTimeZone("Europe/Berlin").isValid();
-}
-
-/** One value of every kind that has a form of its own in streams, but with the same result at all versions.
- */
-QVariantHash coreValues()
-{
-    return {{"null", QVariant()},
-            {"bool", true},
-            {"int", -7},
-            {"uint", 7U},
-            {"long", Q_INT64_C(-5000000000)},
-            {"ulong", Q_UINT64_C(1) << 63},
-            {"double", 0.1},
-            {"float", QVariant::fromValue(2.5F)},
-            {"char", QChar('x')},
-            {"text", QString::fromUtf8("Gr\u00f6\u00dfe \u20ac <&>")},
-            {"texts", QStringList{"a", QString(), "c"}},
-            {"bytes", QByteArray("\0\1\xff", 3)},
-            {"bits", QBitArray(11, true)},
-            {"date", QDate(1999, 12, 31)},
-            {"time", QTime(1, 2, 3, 4)},
-            {"date and time", anyTime()},
-            {"url", QUrl("http://example.com/a?b#c")},
-            {"uuid", QUuid(1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11)},
-            {"expression", QRegularExpression("a+b", QRegularExpression::CaseInsensitiveOption)},
-            {"point", QPoint(1, -2)},
-            {"rect", QRectF(1.5, 2, 3, 4)},
-            {"line", QLineF(1, 2, 3, 4)},
-            {"list", QVariantList{1, "two", QVariantMap{{"three", 3}}}},
-            {"hash", QVariantHash{{"inner", QSize(1, 2)}}},
-            {"status", nested(hashOf({{"deep", nested(hashOf({{"x", 1}}, 3))}}, 0xFFFFFFFF))}};
-}
-
-QVariantHash guiValues()
-{
-    QFont font("Sans", 9);
-    font.setBold(true);
-    QImage image(3, 2, QImage::Format_RGB32);
-    image.fill(Qt::blue);
-    QLinearGradient gradient(0, 0, 1, 1);
-    gradient.setColorAt(0.5, Qt::red);
-    return {{"colour", QColor(1, 2, 3, 4)},
-            {"font", font},
-            {"brush", QBrush(gradient)},
-            {"pen", QPen(Qt::green, 2.5, Qt::DashDotLine)},
-            {"palette", QPalette(Qt::darkCyan)},
-            {"image", image},
-            {"pixmap", QPixmap::fromImage(image)},
-            {"key", QKeySequence("Ctrl+K, Ctrl+L")},
-            {"polygon", QPolygonF(QRectF(1, 2, 3, 4))},
-            {"matrix", QMatrix4x4()},
-            {"region", QRegion(1, 2, 3, 4)}};
-}
-
-QString anyText()
-{
-    QString text;
-    for (int left = QRandomGenerator::global()->bounded(12); left > 0; --left) {
-        const int kind = QRandomGenerator::global()->bounded(3);
-        text += QChar(QRandomGenerator::global()->bounded(kind == 0 ? 0x10000 : kind == 1 ? 0x80 : 0x200));
-    }
-    return text;
+    if (value.userType() == qMetaTypeId<PYXStatusHash>())
+        return contentOf(value.value<PYXStatusHash>().toXml());
+    if (value.userType() != QMetaType::QVariantHash)
+        return streamed(value, QDataStream::Qt_4_6);
+    return contentOf(hashOf(value.toHash()).toXml());
 }
 
 /** Only characters that XML has. */
-QString anyKey()
+QString randomKey(QRandomGenerator &random)
 {
-    const QString text = anyText();
     QString key;
-    for (const QChar c : text) {
-        if (c >= QChar(' ') && !c.isSurrogate() && c < QChar(0xFFFE))
-            key += c;
-    }
+    for (int length = random.bounded(12); length > 0; --length)
+        key += QChar(random.bounded(2) == 0 ? random.bounded(' ', 0x80) : random.bounded(0x80, 0xD800));
     return key;
-}
-
-QVariant anyValue(int level)
-{
-    auto *const random = QRandomGenerator::global();
-    switch (random->bounded(level < 3 ? 12 : 9)) {
-    case 0:
-        return anyText();
-    case 1:
-        return int(random->generate());
-    case 2:
-        return quint64(random->generate64());
-    case 3:
-        return random->bounded(1.0e6);
-    case 4:
-        return QRect(QPoint(int(random->generate()), -1), QPoint(5, int(random->generate())));
-    case 5:
-        return QByteArray::number(random->generate());
-    case 6:
-        return QLine(1, 2, 3, int(random->generate()));
-    case 7:
-        return QStringList{anyText(), anyText()};
-    case 8:
-        return random->bounded(2) == 1;
-    case 9:
-        return QVariantHash{{anyKey(), anyValue(level + 1)}, {anyKey(), anyValue(level + 1)}};
-    case 10:
-        return QVariantList{anyValue(level + 1), anyValue(level + 1)};
-    default:
-        return nested(hashOf({{anyKey(), anyValue(level + 1)}, {anyKey(), anyValue(level + 1)}}, 9));
-    }
-}
-
-PYXStatusHash anyHash()
-{
-    PYXStatusHash hash;
-    for (int i = 0; i < 8; ++i)
-        hash.insert(anyKey(), anyValue(0));
-    return hash;
 }
 
 } // namespace
@@ -255,15 +93,11 @@ private Q_SLOTS:
     void writesTheBinaryForm_data();
     void writesTheBinaryForm();
     void keepsItsCacheUntilItChanges();
-    void takesOnlyItsMagicNumber_data();
     void takesOnlyItsMagicNumber();
     void warnsOfUnknownFormatVersion();
-    void restoresEveryTypeAtEveryVersion_data();
-    void restoresEveryTypeAtEveryVersion();
     void refusesHostileBytes_data();
     void refusesHostileBytes();
-    void refusesZonesThatAreNone();
-    void bearsDamagedBytes();
+    void takesZonesThatCanBeWritten();
     void writesTheXmlForm();
     void writesAnyKey();
     void keepsTextsThatXmlCannotHold();
@@ -271,12 +105,11 @@ private Q_SLOTS:
     void readsXmlByHand();
     void refusesHostileXml_data();
     void refusesHostileXml();
-    void bearsDamagedXml();
+    void refusesTruncatedForms();
     void readsElementsOfADocument();
     void leavesOutWhatCouldNotBeRestored();
     void roundTripsRandomContent();
     void comparesByContent();
-    void livesInSettings();
     void streamsInsideOtherData();
 };
 
@@ -303,20 +136,20 @@ void tst_PYXStatusHash::writesTheBinaryForm_data()
         QTest::newRow(name) << hash << bytes;
     };
     const auto v4_6 = QDataStream::Qt_4_6;
-    const QByteArray inner = Bytes().u32(5).u32(1).u32(1).text("b").u32(1).u8(0).u8(1);
-    row("int", v4_6, 5, oneEntry(0x01020304).u32(2).u8(0).u32(5));
-    row("text", v4_6, "xy", oneEntry(0x01020304).u32(10).u8(0).text("xy"));
-    row("invalid", v4_6, QVariant(), oneEntry(0x01020304).u32(0).u8(1).u32(0xFFFFFFFF));
-    row("nested hash", v4_6, nested(hashOf({{"b", true}}, 5)),
-        oneEntry(0x01020304).u32(UserType).u8(0).array(TypeName).raw(inner));
+    const QByteArray begin = oneEntry(0x01020304);
+    const QByteArray inner = bytesOf(5U, 1U, 1U, QString("b"), 1U, NotNull, quint8(1));
+    row("int", v4_6, 5, begin + bytesOf(2U, NotNull, 5));
+    row("text", v4_6, "xy", begin + bytesOf(10U, NotNull) + QByteArray("\0\0\0\4\0x\0y", 8));
+    row("invalid", v4_6, QVariant(), begin + bytesOf(0U, quint8(1), 0xFFFFFFFFU));
+    row("nested hash", v4_6, nested(hashOf({{"b", true}}, 5)), begin + nestedBegin() + inner);
     row("nested hash, never changed", v4_6, nested(PYXStatusHash(5)),
-        oneEntry(0x01020304).u32(UserType).u8(0).array(TypeName).u32(5).u32(1).u32(0));
+        begin + nestedBegin() + bytesOf(5U, 1U, 0U));
     row("nested hash of Qt 5", QDataStream::Qt_5_15, nested(hashOf({{"b", true}}, 5)),
-        oneEntry(0x01020304).u32(NewUserType).u8(0).array(TypeName).raw(inner));
-    row("int of Qt 4.0", QDataStream::Qt_4_0, 5, oneEntry(0x01020304).u32(2).u32(5));
+        begin + nestedBegin(NewUserType) + inner);
+    row("int of Qt 4.0", QDataStream::Qt_4_0, 5, begin + bytesOf(2U, 5));
     PYXStatusHash cleared(7);
     cleared.clear();
-    QTest::newRow("cleared") << cleared << QByteArray(Bytes().u32(7).u32(1).u32(0));
+    QTest::newRow("cleared") << cleared << bytesOf(7U, 1U, 0U);
 }
 
 void tst_PYXStatusHash::writesTheBinaryForm()
@@ -331,7 +164,7 @@ void tst_PYXStatusHash::writesTheBinaryForm()
 
 void tst_PYXStatusHash::keepsItsCacheUntilItChanges()
 {
-    const QByteArray form = oneEntry().u32(2).u8(0).u32(5);
+    const QByteArray form = oneEntry() + bytesOf(2U, NotNull, 5);
     const QByteArray input = form + "more"; // shows whether the input is kept
     PYXStatusHash hash;
     QVERIFY(hash.restoreFrom(input));
@@ -339,10 +172,6 @@ void tst_PYXStatusHash::keepsItsCacheUntilItChanges()
     QCOMPARE(hash.serialize(), input);
     hash.insert("a", 5);
     QCOMPARE(hash.serialize(), form);
-
-    QVERIFY(hash.restoreFrom(input));
-    hash.remove("a");
-    QCOMPARE(hash.serialize(), QByteArray(Bytes().u32(0).u32(1).u32(0)));
 
     QVERIFY(hash.restoreFrom(input));
     QVERIFY(hash.restoreFromXml("<StatusHash><a type='Int'>5</a></StatusHash>"));
@@ -354,123 +183,55 @@ void tst_PYXStatusHash::keepsItsCacheUntilItChanges()
     QVERIFY(PYXStatusHash::fromSerialized(form).hasSameContentsAs(hashOf({{"a", 5}})));
 }
 
-void tst_PYXStatusHash::takesOnlyItsMagicNumber_data()
-{
-    QTest::addColumn<bool>("xml");
-    QTest::newRow("binary") << false;
-    QTest::newRow("XML") << true;
-}
-
 void tst_PYXStatusHash::takesOnlyItsMagicNumber()
 {
-    QFETCH(bool, xml);
     const PYXStatusHash other = hashOf({{"a", 1}}, 0x4321);
-    const auto restore = [&](PYXStatusHash &hash) {
-        return xml ? hash.restoreFromXml(other.toXml()) : hash.restoreFrom(other.serialize());
-    };
-    Traces traces;
-    PYXStatusHash hash(0x1234);
-    QVERIFY(!restore(hash));
-    QVERIFY(hash.isEmpty());
-    QCOMPARE(hash.magicNumber(), 0x1234U);
-    hash.unsetMagicNumber();
-    QVERIFY(restore(hash));
-    QCOMPARE(hash.magicNumber(), 0x4321U);
-    QCOMPARE(hash.value("a"), QVariant(1));
-    PYXStatusHash same(0x4321);
-    QVERIFY(restore(same));
-    QCOMPARE(traces.calls, QStringList());
+    for (const bool bXml : {false, true}) {
+        const auto restore = [&](PYXStatusHash &hash) {
+            return bXml ? hash.restoreFromXml(other.toXml()) : hash.restoreFrom(other.serialize());
+        };
+        PYXStatusHash hash(0x1234);
+        QCOMPARE(tracesOf([&] { QVERIFY(!restore(hash)); }), QStringList());
+        QVERIFY(hash.isEmpty());
+        QCOMPARE(hash.magicNumber(), 0x1234U);
+        hash.unsetMagicNumber();
+        QVERIFY(restore(hash));
+        QVERIFY(hash == other);
+        PYXStatusHash same(0x4321);
+        QVERIFY(restore(same));
+    }
 }
 
 void tst_PYXStatusHash::warnsOfUnknownFormatVersion()
 {
-    Traces traces;
     PYXStatusHash hash = hashOf({{"old", 1}});
-    QVERIFY(!hash.restoreFrom(Bytes().u32(0).u32(2).u32(0)));
+    const QStringList traces = tracesOf([&] { QVERIFY(!hash.restoreFrom(bytesOf(0U, 2U, 0U))); });
     QVERIFY(hash.isEmpty());
     const QString address = QString::number(quintptr(&hash), 16).rightJustified(8, '0');
-    QCOMPARE(traces.calls, QStringList("Warn|PYXRuntime::PYXStatusHash[0x" + address +
-                                       "]: %3: restoreFrom: unknown version [2]|PYXRuntime|0"));
-}
-
-void tst_PYXStatusHash::restoresEveryTypeAtEveryVersion_data()
-{
-    QTest::addColumn<int>("version");
-    for (int version = QDataStream::Qt_4_0; version <= QDataStream::Qt_5_15; ++version)
-        QTest::addRow("stream version %d", version) << version;
-}
-
-void tst_PYXStatusHash::restoresEveryTypeAtEveryVersion()
-{
-    QFETCH(int, version);
-    const bool bGui = version <= QDataStream::Qt_4_1 || version >= QDataStream::Qt_4_6;
-    QVariantHash values = coreValues();
-    if (bGui) {
-        const QVariantHash gui = guiValues();
-        for (auto entry = gui.cbegin(); entry != gui.cend(); ++entry)
-            values.insert(entry.key(), entry.value());
-    }
-    if (version >= QDataStream::Qt_5_2) {
-        values.insert("offset", anyTime().toOffsetFromUtc(5400));
-        if (hasNamedZones())
-            values.insert("zone", anyTime().toTimeZone(QTimeZone("Europe/Berlin")));
-        values.insert("zone of an offset", anyTime().toTimeZone(QTimeZone(5400)));
-    }
-    // Icons do not compare; this one only has to be read to its very end.
-    if (bGui)
-        values.insert("icon", QVariantList{QIcon(values.value("pixmap").value<QPixmap>()), "end"});
-    PYXStatusHash hash{QDataStream::Version(version)};
-    for (auto entry = values.cbegin(); entry != values.cend(); ++entry)
-        hash.insert(entry.key(), entry.value());
-    Traces traces;
-    PYXStatusHash restored{QDataStream::Version(version)};
-    QVERIFY(restored.restoreFrom(hash.serialize()));
-    QCOMPARE(traces.calls.join('\n'), QString());
-    QCOMPARE(restored.value("icon").toList().value(1), bGui ? QVariant("end") : QVariant());
-    values.remove("icon");
-    for (auto entry = values.cbegin(); entry != values.cend(); ++entry) {
-        const QVariant &value = restored.value(entry.key());
-        QCOMPARE(value.userType(), entry.value().userType());
-        if (value.userType() == QMetaType::QPixmap)
-            QCOMPARE(value.value<QPixmap>().toImage(), entry.value().value<QPixmap>().toImage());
-        else if (value.userType() == QMetaType::QFont)
-            QCOMPARE(value.value<QFont>().bold(), true);
-        else
-            QVERIFY2(value == entry.value(), qPrintable(entry.key()));
-    }
+    QCOMPARE(traces, QStringList("Warn|PYXRuntime::PYXStatusHash[0x" + address +
+                                 "]: %3: restoreFrom: unknown version [2]|PYXRuntime|0"));
 }
 
 void tst_PYXStatusHash::refusesHostileBytes_data()
 {
     QTest::addColumn<QByteArray>("bytes");
     const auto row = [](const char *name, const QByteArray &bytes) { QTest::newRow(name) << bytes; };
-    const QByteArray listOfOne = Bytes().u32(9).u8(0).u32(1);
-    const QByteArray hashInHash = Bytes().u32(UserType).u8(0).array(TypeName).u32(0).u32(1).u32(1).text("a");
-    QEasingCurve curve(QEasingCurve::InBounce);
-    QByteArray streamedCurve;
-    QDataStream stream(&streamedCurve, QIODevice::WriteOnly);
-    stream.setVersion(QDataStream::Qt_4_6);
-    stream << QVariant(curve);
-    row("no entries", Bytes().u32(0).u32(1));
-    row("more entries than bytes", Bytes().u32(0).u32(1).u32(0xFFFFFFFF));
-    row("one entry too few", Bytes().u32(0).u32(1).u32(2).text("a").u32(2).u8(0).u32(5));
-    row("long key", Bytes().u32(0).u32(1).u32(1).u32(0x7FFFFFFE).u32(0));
-    row("half a character", Bytes().u32(0).u32(1).u32(1).u32(3).raw("abc").u32(2).u8(0).u32(5));
-    row("long list", oneEntry().u32(9).u8(0).u32(0x40000000));
-    row("long list of texts", oneEntry().u32(11).u8(0).u32(0x7FFFFFFF).u32(0));
-    row("long bit array", oneEntry().u32(13).u8(0).u32(0xFFFFFFFF));
-    row("unknown type", oneEntry().u32(126).u8(0).u32(0));
-    row("type beyond all", oneEntry().u32(0x7FFFFFFF).u8(0).u32(0));
-    row("unknown named type", oneEntry().u32(UserType).u8(0).array(QByteArray("No::Such", 9)).u32(0));
-    row("nameless type", oneEntry().u32(UserType).u8(0).u32(0xFFFFFFFF));
-    row("object pointer", oneEntry().u32(UserType).u8(0).array(QByteArray("QObject*", 9)).u32(0).u32(0));
-    row("address of a function", oneEntry().raw(streamedCurve));
-    row("nested hash of another format", oneEntry().u32(UserType).u8(0).array(TypeName).u32(0).u32(2).u32(0));
-    row("nested hash with a lying count",
-        oneEntry().u32(UserType).u8(0).array(TypeName).u32(0).u32(1).u32(0x7FFFFFFF));
-    row("lists in lists", oneEntry().repeated(listOfOne, DeepLevels).u32(2).u8(0).u32(5));
-    row("hashes in hashes", oneEntry().repeated(hashInHash, DeepLevels).u32(2).u8(0).u32(5));
-    row("hashes in hashes, one too many", oneEntry().repeated(hashInHash, 99).u32(2).u8(0).u32(5));
+    const QByteArray five = bytesOf(2U, NotNull, 5);
+    const QByteArray listOfOne = bytesOf(9U, NotNull, 1U);
+    const QByteArray hashInHash = nestedBegin() + oneEntry();
+    row("no entries", bytesOf(0U, 1U));
+    row("more entries than bytes", bytesOf(0U, 1U, 0xFFFFFFFFU));
+    row("one entry too few", bytesOf(0U, 1U, 2U, QString("a")) + five);
+    row("long key", bytesOf(0U, 1U, 1U, 0x7FFFFFFEU, 0U));
+    row("half a character", bytesOf(0U, 1U, 1U, 3U) + "abc" + five);
+    row("unknown type", oneEntry() + bytesOf(126U, NotNull, 0U));
+    row("unknown named type", oneEntry() + bytesOf(UserType, NotNull, QByteArray("No::Such", 9), 0U));
+    row("nameless type", oneEntry() + bytesOf(UserType, NotNull, QByteArray()));
+    row("nested hash of another format", oneEntry() + nestedBegin() + bytesOf(0U, 2U, 0U));
+    row("nested hash with a lying count", oneEntry() + nestedBegin() + bytesOf(0U, 1U, 0x7FFFFFFFU));
+    row("lists in lists", oneEntry() + listOfOne.repeated(DeepLevels) + five);
+    row("hashes in hashes", oneEntry() + hashInHash.repeated(DeepLevels) + five);
+    row("hashes in hashes, one too many", oneEntry() + hashInHash.repeated(99) + five);
 }
 
 void tst_PYXStatusHash::refusesHostileBytes()
@@ -478,12 +239,11 @@ void tst_PYXStatusHash::refusesHostileBytes()
     QFETCH(QByteArray, bytes);
     QElapsedTimer timer;
     timer.start();
-    Traces traces;
     PYXStatusHash hash = hashOf({{"old", 1}});
-    QVERIFY(!hash.restoreFrom(bytes));
+    const QStringList traces = tracesOf([&] { QVERIFY(!hash.restoreFrom(bytes)); });
     QVERIFY(hash.isEmpty());
-    QVERIFY(traces.calls.value(0).endsWith("]: %3: restoreFrom: the entries are damaged|PYXRuntime|0"));
-    QCOMPARE(traces.calls.size(), 1);
+    QVERIFY(traces.value(0).endsWith("]: %3: restoreFrom: the entries are damaged|PYXRuntime|0"));
+    QCOMPARE(traces.size(), 1);
 
     QDataStream stream(bytes);
     stream.setVersion(QDataStream::Qt_4_6);
@@ -492,53 +252,26 @@ void tst_PYXStatusHash::refusesHostileBytes()
     QVERIFY(hash.isEmpty());
 
     // The same bytes as the text of a value in XML.
-    const QByteArray variant = Bytes().u32(UserType).u8(0).array(TypeName).raw(bytes);
-    QVERIFY(!hash.restoreFromXml("<StatusHash><a type='Variant'>" + variant.toPercentEncoding() +
-                                 "</a></StatusHash>"));
+    QVERIFY(!hash.restoreFromXml("<StatusHash><a type='Variant'>" +
+                                 (nestedBegin() + bytes).toPercentEncoding() + "</a></StatusHash>"));
     QVERIFY(timer.elapsed() < 2000);
 }
 
-void tst_PYXStatusHash::refusesZonesThatAreNone()
+void tst_PYXStatusHash::takesZonesThatCanBeWritten()
 {
-    const SilentScope silence;
     const auto isRestored = [](const QByteArray &zone, int spec = Qt::TimeZone) {
-        const QByteArray moment = Bytes().u32(0).u32(2461000).u32(1000).u8(spec);
-        return PYXStatusHash(QDataStream::Qt_5_15)
-            .restoreFrom(oneEntry().u32(QMetaType::QDateTime).u8(0).raw(moment).raw(zone));
+        const QByteArray moment =
+            bytesOf(quint32(QMetaType::QDateTime), NotNull, Q_INT64_C(2461000), 1000, qint8(spec));
+        return PYXStatusHash(QDataStream::Qt_5_15).restoreFrom(oneEntry() + moment + zone);
     };
-    const Bytes offset = Bytes().text("OffsetFromUtc");
-    const Bytes names = Bytes().u32(3600).text("n").text("a").u32(0).text("");
-    QCOMPARE(isRestored(Bytes().text("Europe/Berlin")), hasNamedZones());
-    QVERIFY(isRestored(Bytes(offset).text("Own").raw(names)));
-    QVERIFY(!isRestored(Bytes().text("Europe/Nowhere"))); // QTimeZone reads it but cannot write it
+    const bool bNamedZones = QTimeZone("Europe/Berlin").isValid(); // not every system has a table of them
+    QCOMPARE(isRestored(bytesOf(QString("Europe/Berlin"))), bNamedZones);
+    const QString name("n");
+    QVERIFY(isRestored(bytesOf(QString("OffsetFromUtc"), name, 3600, name, name, 0, QString(""))));
+    QVERIFY(!isRestored(bytesOf(QString("Europe/Nowhere")))); // QTimeZone reads it but cannot write it
     QVERIFY(isRestored(QByteArray(), Qt::UTC));
     QVERIFY(!isRestored(QByteArray(), -1));
-    QVERIFY(!isRestored(Bytes().text("../zoneinfo/Europe/Berlin")));
-}
-
-void tst_PYXStatusHash::bearsDamagedBytes()
-{
-    PYXStatusHash hash;
-    const QVariantHash values = coreValues();
-    for (auto entry = values.cbegin(); entry != values.cend(); ++entry)
-        hash.insert(entry.key(), entry.value());
-    const QByteArray whole = hash.serialize();
-    const SilentScope silence;
-    const Traces quiet;
-    for (int length = 1; length < whole.size(); ++length)
-        QVERIFY2(!hash.restoreFrom(whole.left(length)), QByteArray::number(length).constData());
-    QVERIFY(hash.restoreFrom(whole));
-    for (int i = 0; i < 3000; ++i) {
-        QByteArray damaged = whole;
-        for (int changes = QRandomGenerator::global()->bounded(1, 4); changes > 0; --changes)
-            damaged[QRandomGenerator::global()->bounded(8, damaged.size())] =
-                char(QRandomGenerator::global()->bounded(256));
-        PYXStatusHash restored;
-        if (restored.restoreFrom(damaged)) // what is accepted can be used
-            QVERIFY(PYXStatusHash().restoreFromXml(restored.toXml()));
-        else
-            QVERIFY(restored.isEmpty());
-    }
+    QVERIFY(!isRestored(bytesOf(QString("../zoneinfo/Europe/Berlin"))));
 }
 
 void tst_PYXStatusHash::writesTheXmlForm()
@@ -551,67 +284,38 @@ void tst_PYXStatusHash::writesTheXmlForm()
     hash.insert("ulong", Q_UINT64_C(18446744073709551615));
     hash.insert("double", 0.1);
     hash.insert("empty", "");
-    hash.insert("text", QString::fromUtf8("<\u00e4 & \"b\">\n "));
-    hash.insert("point", QPointF(0.5, 1));
-    hash.insert("rect", QRect(1, 2, 3, 4));
-    hash.insert("line", QLine(1, 2, 3, 4));
+    hash.insert("text", "<x & \"b\"> ");
+    hash.insert("size", QSizeF(0.5, 1));
     hash.insert("hash", QVariantHash{{"y", 1}, {"x", QVariantHash()}});
     hash.insert("inner", hashOf({{"c", false}}, 7));
     hash.insert("bytes", QByteArray("a%\xff"));
-    const QByteArray expected = "\n<StatusHash magic=\"42\">\n"
-                                "    <Z type=\"UInt\">4000000000</Z>\n"
-                                "    <a type=\"Int\">-1</a>\n"
-                                "    <b type=\"Bool\">true</b>\n"
-                                "    <bytes type=\"Variant\">%00%00%00%0C%00%00%00%00%03a%25%FF</bytes>\n"
-                                "    <double type=\"Double\">0.10000000000000000555</double>\n"
-                                "    <empty type=\"String\"></empty>\n"
-                                "    <hash type=\"Hash\">\n"
-                                "        <x type=\"Hash\"/>\n"
-                                "        <y type=\"Int\">1</y>\n"
-                                "    </hash>\n"
-                                "    <inner type=\"StatusHash\">\n"
-                                "        <StatusHash magic=\"7\">\n"
-                                "            <c type=\"Bool\">false</c>\n"
-                                "        </StatusHash>\n"
-                                "    </inner>\n"
-                                "    <line type=\"Line\">\n"
-                                "        <Line>\n"
-                                "            <Point1>\n"
-                                "                <Point>\n"
-                                "                    <X>1</X>\n"
-                                "                    <Y>2</Y>\n"
-                                "                </Point>\n"
-                                "            </Point1>\n"
-                                "            <Point2>\n"
-                                "                <Point>\n"
-                                "                    <X>3</X>\n"
-                                "                    <Y>4</Y>\n"
-                                "                </Point>\n"
-                                "            </Point2>\n"
-                                "        </Line>\n"
-                                "    </line>\n"
-                                "    <long type=\"LongLong\">-5000000000</long>\n"
-                                "    <point type=\"PointF\">\n"
-                                "        <PointF>\n"
-                                "            <X>0.5000000000</X>\n"
-                                "            <Y>1.0000000000</Y>\n"
-                                "        </PointF>\n"
-                                "    </point>\n"
-                                "    <rect type=\"Rect\">\n"
-                                "        <Rect>\n"
-                                "            <Point>\n"
-                                "                <X>1</X>\n"
-                                "                <Y>2</Y>\n"
-                                "            </Point>\n"
-                                "            <Size>\n"
-                                "                <Width>3</Width>\n"
-                                "                <Height>4</Height>\n"
-                                "            </Size>\n"
-                                "        </Rect>\n"
-                                "    </rect>\n"
-                                "    <text type=\"String\">&lt;\xc3\xa4 &amp; &quot;b&quot;&gt;\n </text>\n"
-                                "    <ulong type=\"ULongLong\">18446744073709551615</ulong>\n"
-                                "</StatusHash>";
+    const QByteArray expected = R"(
+<StatusHash magic="42">
+    <Z type="UInt">4000000000</Z>
+    <a type="Int">-1</a>
+    <b type="Bool">true</b>
+    <bytes type="Variant">%00%00%00%0C%00%00%00%00%03a%25%FF</bytes>
+    <double type="Double">0.10000000000000000555</double>
+    <empty type="String"></empty>
+    <hash type="Hash">
+        <x type="Hash"/>
+        <y type="Int">1</y>
+    </hash>
+    <inner type="StatusHash">
+        <StatusHash magic="7">
+            <c type="Bool">false</c>
+        </StatusHash>
+    </inner>
+    <long type="LongLong">-5000000000</long>
+    <size type="SizeF">
+        <SizeF>
+            <Width>0.5000000000</Width>
+            <Height>1.0000000000</Height>
+        </SizeF>
+    </size>
+    <text type="String">&lt;x &amp; &quot;b&quot;&gt; </text>
+    <ulong type="ULongLong">18446744073709551615</ulong>
+</StatusHash>)";
     QCOMPARE(hash.toXml(), expected);
     QVERIFY(PYXStatusHash::fromXml(expected) == hash);
 
@@ -632,11 +336,11 @@ void tst_PYXStatusHash::writesAnyKey()
     PYXStatusHash hash;
     for (const QString &key : names + others)
         hash.insert(key, key.size());
-    Traces traces;
-    const QByteArray xml = hash.toXml();
-    QCOMPARE(traces.calls.size(), others.size());
-    QVERIFY(traces.calls.first().startsWith("Warn|PYXStatusHash: the key '' is no name in XML|"
-                                            "source\\PYXStatusHash|"));
+    QByteArray xml;
+    const QStringList traces = tracesOf([&] { xml = hash.toXml(); });
+    QCOMPARE(traces.size(), others.size());
+    QVERIFY(traces.first().startsWith("Warn|PYXStatusHash: the key '' is no name in XML|"
+                                      "source\\PYXStatusHash|"));
     QVERIFY(xml.contains("<Entry key=\"a b\" type=\"Int\">3</Entry>"));
     QVERIFY(xml.contains("<Entry type=\"Int\">5</Entry>"));
     QVERIFY(PYXStatusHash::fromXml(xml) == hash);
@@ -644,21 +348,12 @@ void tst_PYXStatusHash::writesAnyKey()
 
 void tst_PYXStatusHash::keepsTextsThatXmlCannotHold()
 {
-    const QString zero(QChar(0));
-    const QStringList texts = {"\r",
-                               "a\r\nb\rc",
-                               "  ",
-                               "\n",
-                               "\x01",
-                               zero,
-                               "a" + QString(QChar(0xD800)),
-                               QString(QChar(0xDC00)) + QChar(0xD800),
-                               QString(QChar(0xFFFF)),
-                               "]]>",
-                               QString::fromUtf8("\U0001F4E1")};
+    const auto unit = [](ushort c) { return QString(QChar(c)); };
     PYXStatusHash hash;
-    for (int i = 0; i < texts.size(); ++i)
-        hash.insert(QString("t%1").arg(i), texts.at(i));
+    for (const QString &text :
+         {QString("a\r\nb\rc"), QString("  "), QString("\n"), QString("]]>"), unit(0), unit(1), unit(0xD800),
+          unit(0xDC00) + unit(0xD800), unit(0xFFFF), QString::fromUtf8("\U0001F4E1")})
+        hash.insert("t" + QString::number(hash.keys().size()), text);
     QVERIFY(PYXStatusHash::fromXml(hash.toXml()) == hash);
 }
 
@@ -711,9 +406,7 @@ void tst_PYXStatusHash::refusesHostileXml_data()
     const auto deep = [](const QByteArray &open, const QByteArray &close) {
         return "<StatusHash>" + open.repeated(DeepLevels) + close.repeated(DeepLevels) + "</StatusHash>";
     };
-    row("no XML", "rubbish", unreadable);
     row("not closed", "<StatusHash><a type='Int'>1</a>", unreadable);
-    row("trailing rubbish", "<StatusHash/>more", unreadable);
     row("wrong encoding", "<StatusHash><a type='String'>\xff\xfe</a></StatusHash>", unreadable);
     row("other root", "<Status><StatusHash/></Status>", noRoot);
     row("deep hashes", deep("<a type='Hash'>", "</a>"), tooDeep);
@@ -733,7 +426,6 @@ void tst_PYXStatusHash::refusesHostileXml_data()
     row("no nested hash", "<StatusHash><a type='StatusHash'/></StatusHash>", parsing);
     row("list of a lying length",
         "<StatusHash><a type='Variant'>%00%00%00%09%00%7F%FF%FF%FF</a></StatusHash>", parsing);
-    row("no variant", "<StatusHash><a type='Variant'/></StatusHash>", parsing);
 }
 
 void tst_PYXStatusHash::refusesHostileXml()
@@ -742,38 +434,27 @@ void tst_PYXStatusHash::refusesHostileXml()
     QFETCH(QString, report);
     QElapsedTimer timer;
     timer.start();
-    Traces traces;
     PYXStatusHash hash = hashOf({{"old", 1}});
-    QVERIFY(!hash.restoreFromXml(xml));
-    QCOMPARE(traces.calls.size(), 1);
-    QVERIFY2(traces.calls.first().startsWith(report), qPrintable(traces.calls.first()));
+    const QStringList traces = tracesOf([&] { QVERIFY(!hash.restoreFromXml(xml)); });
+    QCOMPARE(traces.size(), 1);
+    QVERIFY2(traces.first().startsWith(report), qPrintable(traces.first()));
     QCOMPARE(hash.keys(), QStringList("old"));
     QVERIFY(timer.elapsed() < 2000);
 }
 
-void tst_PYXStatusHash::bearsDamagedXml()
+void tst_PYXStatusHash::refusesTruncatedForms()
 {
-    const PYXStatusHash whole = hashOf({{"a", "text"},
-                                        {"p", QPoint(1, 2)},
-                                        {"h", QVariantHash{{"b", true}}},
-                                        {"v", QVariantList{1, 2}},
-                                        {"s", nested(hashOf({{"x", 1}}))}});
-    const QByteArray xml = whole.toXml();
-    const Traces quiet;
-    PYXStatusHash hash = hashOf({{"old", 1}});
-    for (int length = 1; length < xml.size(); ++length)
-        QVERIFY2(!hash.restoreFromXml(xml.left(length)), QByteArray::number(length).constData());
-    QCOMPARE(hash.keys(), QStringList("old"));
-    for (int i = 0; i < 2000; ++i) {
-        QByteArray damaged = xml;
-        damaged[QRandomGenerator::global()->bounded(damaged.size())] =
-            char(QRandomGenerator::global()->bounded(256));
-        PYXStatusHash restored;
-        if (restored.restoreFromXml(damaged))
-            QVERIFY(PYXStatusHash::fromXml(restored.toXml()) == restored);
-        else
-            QVERIFY(restored.isEmpty());
-    }
+    const PYXStatusHash whole = hashOf({{"h", QVariantHash{{"b", true}}},
+                                        {"v", QVariantList{1, QUrl("http://a/")}},
+                                        {"s", nested(hashOf({{"x", QPoint(1, 2)}}))}});
+    const RecordingTracer quiet;
+    PYXStatusHash hash;
+    for (int length = whole.serialize().size() - 1; length > 0; --length)
+        QVERIFY2(!hash.restoreFrom(whole.serialize().left(length)) && hash.isEmpty(),
+                 qPrintable(QString::number(length)));
+    for (int length = whole.toXml().size() - 1; length > 0; --length)
+        QVERIFY2(!hash.restoreFromXml(whole.toXml().left(length)) && hash.isEmpty(),
+                 qPrintable(QString::number(length)));
 }
 
 void tst_PYXStatusHash::readsElementsOfADocument()
@@ -801,32 +482,42 @@ void tst_PYXStatusHash::leavesOutWhatCouldNotBeRestored()
     PYXStatusHash hash = hashOf({{"good", 1}});
     hash.insert("unstreamable", QVariant::fromValue(struUnstreamable()));
     hash.insert("deep", deep);
-    Traces traces;
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("QVariant::save"));
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("QVariant::save"));
+    for (int i = 0; i < 3; ++i)
+        QTest::ignoreMessage(QtWarningMsg, QRegularExpression("QVariant::save"));
     PYXStatusHash restored;
-    QVERIFY(restored.restoreFrom(hash.serialize()));
-    QCOMPARE(restored.keys(), QStringList("good"));
-    QCOMPARE(traces.calls.filter("could not be restored and is not saved").size(), 2);
-    QTest::ignoreMessage(QtWarningMsg, QRegularExpression("QVariant::save"));
-    QVERIFY(restored.restoreFromXml(hash.toXml()));
-    QVERIFY(restored.contains("good"));
-    QVERIFY(!restored.contains("unstreamable"));
-    QCOMPARE(traces.calls.filter("could not be restored and is not saved").size(), 4);
+    const QStringList traces = tracesOf([&] {
+        QVERIFY(restored.restoreFrom(hash.serialize()));
+        QCOMPARE(restored.keys(), QStringList("good"));
+        QVERIFY(restored.restoreFromXml(hash.toXml()));
+        QVERIFY(restored.contains("good") && !restored.contains("unstreamable"));
+    });
+    QCOMPARE(traces.filter("could not be restored and is not saved").size(), 4);
 }
 
 void tst_PYXStatusHash::roundTripsRandomContent()
 {
-    const Traces quiet;
+    const RecordingTracer quiet;
+    const quint32 seed = QRandomGenerator::global()->generate();
+    QRandomGenerator random(seed);
     for (int i = 0; i < 200; ++i) {
-        const PYXStatusHash hash = anyHash();
+        PYXStatusHash hash;
+        QVariantHash inner;
+        for (int entries = 0; entries < 8; ++entries) {
+            hash.insert(randomKey(random), randomValue(random, 1));
+            inner.insert(randomKey(random), randomValue(random, 1));
+        }
+        hash.insert("hash", inner);
+        hash.insert("status", hashOf(inner, 9));
         const PYXStatusHash fromBytes = PYXStatusHash::fromSerialized(hash.serialize());
-        QVERIFY2(fromBytes == hash, hash.toXml().constData());
-        const QByteArray xml = hash.toXml();
-        QVERIFY2(PYXStatusHash::fromXml(xml) == hash, xml.constData());
-        const QStringList keys = hash.keys();
-        for (const QString &key : keys) // QVariant also takes a number for its text
-            QCOMPARE(fromBytes.value(key).userType(), hash.value(key).userType());
+        const PYXStatusHash fromXml = PYXStatusHash::fromXml(hash.toXml());
+        QCOMPARE(fromXml.keys().size(), hash.keys().size());
+        for (const QString &key : hash.keys()) {
+            const QByteArray expected = contentOf(hash.value(key));
+            const bool bSame =
+                contentOf(fromBytes.value(key)) == expected && contentOf(fromXml.value(key)) == expected;
+            const QString where = QString("seed %1, %2").arg(seed).arg(hash.value(key).typeName());
+            QVERIFY2(bSame, qPrintable(where));
+        }
     }
 }
 
@@ -850,23 +541,9 @@ void tst_PYXStatusHash::comparesByContent()
     QCOMPARE(inner.value("a"), QVariant(1));
 }
 
-void tst_PYXStatusHash::livesInSettings()
-{
-    const QTemporaryDir directory;
-    const PYXStatusHash whole =
-        hashOf({{"a", "x"}, {"s", nested(hashOf({{"x", QRectF(0, 0, .5, .5)}}))}}, 77);
-    for (const QSettings::Format format : {PYXRuntime::PYXXmlSettings::format(), QSettings::IniFormat}) {
-        const QString file = directory.filePath(QString::number(format));
-        QSettings(file, format).setValue("state", nested(whole));
-        const QVariant read = QSettings(file, format).value("state");
-        QCOMPARE(read.userType(), QMetaType::type("PYXRuntime::PYXStatusHash"));
-        QVERIFY(read.value<PYXStatusHash>() == whole);
-    }
-}
-
 void tst_PYXStatusHash::streamsInsideOtherData()
 {
-    const PYXStatusHash whole = anyHash();
+    const PYXStatusHash whole = hashOf({{"r", QRectF(0, 0, .1, 1)}, {"s", nested(hashOf({{"x", 1}}, 3))}});
     QBuffer buffer;
     buffer.open(QIODevice::ReadWrite);
     QDataStream stream(&buffer);

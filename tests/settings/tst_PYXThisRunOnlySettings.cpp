@@ -3,7 +3,6 @@
 #include "PYXRuntime.h"
 #include "PYXSettings.h"
 #include "PYXThisRunOnlySettings.h"
-#include "PYXTraceWrapper.h"
 #include "PYXXmlSettings.h"
 #include "RecordingTracer.h"
 #include "SettingsHome.h"
@@ -13,36 +12,24 @@
 
 using PYXRuntime::PYXSettings;
 using PYXRuntime::PYXThisRunOnlySettings;
-using PYXRuntime::PYXTraceWrapper;
 
 class tst_PYXThisRunOnlySettings : public QObject
 {
     Q_OBJECT
 private slots:
-    void init() { PYXTraceWrapper::addTracer(&m_tracer); }
-    void cleanup()
-    {
-        PYXThisRunOnlySettings::destroyInstance();
-        PYXTraceWrapper::removeTracer(&m_tracer);
-        m_tracer.calls.clear();
-    }
+    void cleanup() { PYXThisRunOnlySettings::destroyInstance(); }
     void formatIsInvalidBeforeTheLibraryStarts(); // the first: a format stays registered
     void filesLiveFromStartToStopInEveryRound();
     void aFileThatCannotBeRemovedIsToldOnce();
-    void onlyFilesAreTaken();
-    void nothingIsWrittenAfterTheEnd();
+    void onlyFilesAreTakenAndNotAfterTheEnd();
     void aDamagedFileLeavesNoCopy();
-
-private:
-    RecordingTracer m_tracer;
 };
 
 void tst_PYXThisRunOnlySettings::formatIsInvalidBeforeTheLibraryStarts()
 {
     QCOMPARE(PYXThisRunOnlySettings::format(), QSettings::InvalidFormat);
     QVERIFY(!PYXThisRunOnlySettings::hasInstance());
-    PYXThisRunOnlySettings::destroyInstance();
-    QCOMPARE(m_tracer.calls, QStringList());
+    QCOMPARE(tracesOf(PYXThisRunOnlySettings::destroyInstance), QStringList());
 }
 
 void tst_PYXThisRunOnlySettings::filesLiveFromStartToStopInEveryRound()
@@ -92,19 +79,21 @@ void tst_PYXThisRunOnlySettings::aFileThatCannotBeRemovedIsToldOnce()
     }
     QVERIFY(QFile::remove(stubborn));
     QVERIFY(QDir().mkdir(stubborn)); // no file any more
-    PYXThisRunOnlySettings::destroyInstance();
-    QCOMPARE(m_tracer.calls.size(), 1);
-    QVERIFY2(m_tracer.calls.first().startsWith("Info|Failed to remove 'this run only' settings file: " +
-                                               stubborn + "|source\\PYXThisRunOnlySettings|"),
-             qPrintable(m_tracer.calls.first()));
+    const QStringList traces = tracesOf([] {
+        PYXThisRunOnlySettings::destroyInstance();
+        PYXThisRunOnlySettings::makeSureInitialized();
+        PYXThisRunOnlySettings::destroyInstance(); // it was forgotten
+    });
+    QCOMPARE(traces.size(), 1);
+    QVERIFY2(traces.first().startsWith("Info|Failed to remove 'this run only' settings file: " + stubborn +
+                                       "|source\\PYXThisRunOnlySettings|"),
+             qPrintable(traces.first()));
     QCOMPARE(home.files(), QStringList());
-    PYXThisRunOnlySettings::makeSureInitialized();
-    PYXThisRunOnlySettings::destroyInstance(); // it was forgotten
-    QCOMPARE(m_tracer.calls.size(), 1);
 }
 
-void tst_PYXThisRunOnlySettings::onlyFilesAreTaken()
+void tst_PYXThisRunOnlySettings::onlyFilesAreTakenAndNotAfterTheEnd()
 {
+    const SettingsHome home;
     PYXThisRunOnlySettings::makeSureInitialized();
     QBuffer buffer;
     QVERIFY(buffer.open(QIODevice::ReadWrite));
@@ -114,12 +103,6 @@ void tst_PYXThisRunOnlySettings::onlyFilesAreTaken()
     QVERIFY(!PYXThisRunOnlySettings::readSettings(buffer, map));
     QTemporaryFile nameless; // no name before it is opened
     QVERIFY(!PYXThisRunOnlySettings::readSettings(nameless, map));
-}
-
-void tst_PYXThisRunOnlySettings::nothingIsWrittenAfterTheEnd()
-{
-    const SettingsHome home;
-    PYXThisRunOnlySettings::makeSureInitialized();
     home.hold(PYXThisRunOnlySettings::format());
     PYXSettings late(PYXSettings::eThisRunOnlyUserApplication);
     late.setValue("Key", 1);

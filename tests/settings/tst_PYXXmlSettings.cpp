@@ -37,13 +37,10 @@ class tst_PYXXmlSettings : public QObject
 private Q_SLOTS:
     void init();
     void cleanup();
-    void registersOneFormat();
     void changesReachTheFile();
-    void checksFiles_data();
     void checksFiles();
     void keepsADamagedFileOnce();
     void keepsTheNewestThreeDamagedFiles();
-    void keepsQuietOfGoodFiles();
 
 private:
     QScopedPointer<RecordingTracer> m_tracer;
@@ -67,18 +64,9 @@ void tst_PYXXmlSettings::cleanup()
     m_warnings.reset();
 }
 
-void tst_PYXXmlSettings::registersOneFormat()
-{
-    const QSettings::Format format = PYXXmlSettings::format();
-    QVERIFY(format >= QSettings::CustomFormat1);
-    QCOMPARE(PYXXmlSettings::format(), format);
-    QSettings::setPath(format, QSettings::UserScope, m_directory->path());
-    const QSettings settings(format, QSettings::UserScope, "Organisation", "Application");
-    QCOMPARE(QFileInfo(settings.fileName()).fileName(), QString("Application.PYXXml"));
-}
-
 void tst_PYXXmlSettings::changesReachTheFile()
 {
+    QCOMPARE(PYXXmlSettings::format(), PYXXmlSettings::format());
     {
         QSettings settings(m_path, PYXXmlSettings::format());
         settings.setValue("Group/Key", "first");
@@ -100,35 +88,34 @@ void tst_PYXXmlSettings::changesReachTheFile()
     QSettings settings(m_path, PYXXmlSettings::format());
     QCOMPARE(settings.allKeys(), QStringList({"Group/Key", "group/key"}));
     QCOMPARE(settings.status(), QSettings::NoError);
-}
-
-void tst_PYXXmlSettings::checksFiles_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("version");
-    QTest::addColumn<QStringList>("warnings");
-    const QString prefix("PYXXmlSettingsPrivate::isPYXXmlSettingsFile: ");
-    QTest::newRow("no version") << QByteArray("<pyxxmlsettings/>") << "1.0" << QStringList();
-    QTest::newRow("another version") << QByteArray("<PYXXMLSETTINGS version='7'><entry/></PYXXMLSETTINGS>")
-                                     << "7" << QStringList();
-    QTest::newRow("another root") << QByteArray("<x version='1.0'/>") << QString()
-                                  << QStringList(prefix + "not a PYXXml settings file");
-    QTest::newRow("error at the end")
-        << QByteArray("<PYXXmlSettings/><x/>") << QString() << QStringList(prefix + "error setting content");
+    QCOMPARE(QDir(m_directory->path()).entryList(QDir::Files), QStringList("store"));
+    QCOMPARE(m_tracer->calls + m_warnings->texts(), QStringList());
 }
 
 void tst_PYXXmlSettings::checksFiles()
 {
-    QFETCH(QByteArray, content);
-    QFETCH(QString, version);
-    put(m_path, content);
-    QString found;
-    QCOMPARE(PYXXmlSettings::isPYXXmlSettingsFile(m_path, found), !version.isEmpty());
-    QCOMPARE(found, version);
-    QTEST(m_warnings->texts(), "warnings");
-    for (const QString &none : {QString(), m_path + "x", m_directory->path()})
-        QVERIFY(!PYXXmlSettings::isPYXXmlSettingsFile(none, found));
-    QTEST(m_warnings->texts(), "warnings");
+    const QString prefix("PYXXmlSettingsPrivate::isPYXXmlSettingsFile: ");
+    const struct
+    {
+        const char *content;
+        QString version; ///< null: no settings file
+        QStringList warnings;
+    } rows[] = {
+        {"<pyxxmlsettings/>", "1.0", {}},
+        {"<PYXXMLSETTINGS version='7'><entry/></PYXXMLSETTINGS>", "7", {}},
+        {"<x version='1.0'/>", {}, {prefix + "not a PYXXml settings file"}},
+        {"<PYXXmlSettings/><x/>", {}, {prefix + "error setting content"}},
+    };
+    for (const auto &row : rows) {
+        put(m_path, row.content);
+        QString found;
+        WarningRecorder::texts().clear();
+        QCOMPARE(PYXXmlSettings::isPYXXmlSettingsFile(m_path, found), !row.version.isNull());
+        QCOMPARE(found, row.version);
+        for (const QString &none : {QString(), m_path + "x", m_directory->path()})
+            QVERIFY(!PYXXmlSettings::isPYXXmlSettingsFile(none, found));
+        QCOMPARE(m_warnings->texts(), row.warnings);
+    }
 }
 
 void tst_PYXXmlSettings::keepsADamagedFileOnce()
@@ -171,15 +158,6 @@ void tst_PYXXmlSettings::keepsTheNewestThreeDamagedFiles()
     QCOMPARE(names.size(), 3);
     for (int i = 0; i < 3; ++i)
         QCOMPARE(get(m_directory->filePath(names.at(i))), QByteArray(11 + i, 'x'));
-}
-
-void tst_PYXXmlSettings::keepsQuietOfGoodFiles()
-{
-    QSettings(m_path, PYXXmlSettings::format()).setValue("a/b", QVariantMap{{"c", 1}});
-    QSettings(m_path, PYXXmlSettings::format()).setValue("a", 2);
-    QCOMPARE(QSettings(m_path, PYXXmlSettings::format()).value("a/b").toMap(), QVariantMap({{"c", 1}}));
-    QCOMPARE(QDir(m_directory->path()).entryList(QDir::Files), QStringList("store"));
-    QCOMPARE(m_tracer->calls + m_warnings->texts(), QStringList());
 }
 
 QTEST_GUILESS_MAIN(tst_PYXXmlSettings)

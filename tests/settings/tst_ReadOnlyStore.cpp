@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The PYXRuntime developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "PYXSettings.h"
-#include "PYXTraceWrapper.h"
 #include "RecordingTracer.h"
 #include "SettingsHome.h"
 
@@ -11,7 +10,6 @@
 #include <unistd.h>
 
 using PYXRuntime::PYXSettings;
-using PYXRuntime::PYXTraceWrapper;
 
 namespace {
 
@@ -39,33 +37,31 @@ class tst_ReadOnlyStore : public QObject
 {
     Q_OBJECT
 private slots:
-    void statusAndTraceTellAndTheOldFileStays_data();
     void statusAndTraceTellAndTheOldFileStays();
-};
 
-void tst_ReadOnlyStore::statusAndTraceTellAndTheOldFileStays_data()
-{
-    QTest::addColumn<bool>("fileExists");
-    QTest::newRow("new store") << false;
-    QTest::newRow("old store") << true;
-}
+private:
+    static void tryStore(bool bOld);
+};
 
 void tst_ReadOnlyStore::statusAndTraceTellAndTheOldFileStays()
 {
-    QFETCH(bool, fileExists);
+    for (const bool bOld : {false, true})
+        tryStore(bOld);
+}
+
+void tst_ReadOnlyStore::tryStore(bool bOld)
+{
     const SettingsHome home;
     const QString directory = home.path("readonly");
     const QString file = directory + "/store.PYXXml";
     QVERIFY(QDir().mkpath(directory));
-    if (fileExists)
+    if (bOld)
         PYXSettings(file).setValue("Key", 1);
     QVERIFY(QFile::setPermissions(home.path("."), EverybodyReads));
     QVERIFY(QFile::setPermissions(directory, NobodyWrites));
-    RecordingTracer tracer;
-    PYXTraceWrapper::addTracer(&tracer);
     QSettings::Status status = QSettings::NoError;
     int read = 0;
-    {
+    const QStringList traces = tracesOf([&] {
         const CommonUser user;
         PYXSettings settings(file);
         read = settings.intValue("Key");
@@ -73,13 +69,12 @@ void tst_ReadOnlyStore::statusAndTraceTellAndTheOldFileStays()
         QCoreApplication::sendPostedEvents(&settings);
         status = settings.status();
         PYXSettings(file).setValue("Other", 3);
-    }
-    PYXTraceWrapper::removeTracer(&tracer);
+    });
     QVERIFY(QFile::setPermissions(directory, EverybodyReads));
     QCOMPARE(status, QSettings::AccessError);
-    QCOMPARE(read, fileExists ? 1 : 0);
-    QCOMPARE(tracer.calls.filter("cannot be written").size(), 1);
-    QCOMPARE(home.files(), fileExists ? QStringList("readonly/store.PYXXml") : QStringList());
+    QCOMPARE(read, bOld ? 1 : 0);
+    QCOMPARE(traces.filter("cannot be written").size(), 1);
+    QCOMPARE(home.files(), bOld ? QStringList("readonly/store.PYXXml") : QStringList());
 }
 
 QTEST_GUILESS_MAIN(tst_ReadOnlyStore)
