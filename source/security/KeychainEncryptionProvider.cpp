@@ -93,8 +93,7 @@ QByteArray KeychainEncryptionProvider::decrypt(const QByteArray &cipher)
     if (cipher.isEmpty())
         return {};
     const char *reason = "not open";
-    const QByteArray plain =
-        isOpen() ? m_vault->decrypted(QByteArray::fromBase64(cipher), &reason) : QByteArray();
+    QByteArray plain = isOpen() ? m_vault->decrypted(QByteArray::fromBase64(cipher), &reason) : QByteArray();
     if (plain.isEmpty())
         PYXTraceWrapper::staticTraceDebug(TracePrefix + QLatin1String(reason), TraceFile, __LINE__);
     return plain;

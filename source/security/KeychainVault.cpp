@@ -109,7 +109,7 @@ QString KeychainVault::open(const QString &service, int timeoutMs)
     if (sodium_init() < 0)
         return tr("The encryption library does not work on this system.");
     WipedBytes key;
-    const QString error = fetchKey(KeychainEntry(service, EntryName, timeoutMs), key.value);
+    QString error = fetchKey(KeychainEntry(service, EntryName, timeoutMs), key.value);
     if (error.isEmpty())
         m_key = std::make_unique<Key>(key.value);
     return error;
@@ -147,7 +147,7 @@ QByteArray KeychainVault::decrypted(const QByteArray &record, const char **reaso
     QByteArray plain(record.size() - overhead, Qt::Uninitialized);
     const uchar *const nonce = bytesOf(record, HeaderSize);
     const int status = crypto_aead_xchacha20poly1305_ietf_decrypt(
-        bytesOf(plain), nullptr, nullptr, nonce + NonceSize, quint64(plain.size() + TagSize), bytesOf(record),
+        bytesOf(plain), nullptr, nullptr, nonce + NonceSize, quint64(plain.size()) + TagSize, bytesOf(record),
         HeaderSize, nonce, m_key->bytes());
     if (status != 0) {
         *reason = "damaged, or encrypted with another key";
