@@ -367,6 +367,8 @@ void tst_PYXApplicationInfoImpl::settingsFollowTheirDirectories()
     QVERIFY(isIn(user, "/Organisation/Application.PYXXml", PYXSettings::eUserApplicationSettings));
     QVERIFY(isIn(system, "/Organisation/SharedSettings.PYXXml", PYXSettings::eDefaultSharedSettings));
     QVERIFY(QFile::exists(PYXSettings(PYXSettings::eUserApplicationSettings).fileName()));
+    // In the compatibility mode the default shared paths are not written.
+    QCOMPARE(QFile::exists(PYXSettings(PYXSettings::eDefaultSharedSettings).fileName()), !compatible);
 }
 
 void tst_PYXApplicationInfoImpl::laterDefaultFormatIsPointedToo()

@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 
 using namespace BandMonitor;
 
@@ -61,9 +62,33 @@ Band carriers(double rate, bool complex, const std::vector<std::pair<double, dou
     return band;
 }
 
+/** Equal spectra, one a second: the powers of bins in multiples of the floor. */
+struct struSpectra
+{
+    int count;
+    std::map<int, double> bins;
+};
+using Course = std::vector<struSpectra>;
+
+std::vector<struDetection> detectionsAfter(const Course &course, double floor)
+{
+    SignalDetector detector;
+    struSpectrum spectrum;
+    spectrum.binWidth = 1;
+    for (const auto &[count, bins] : course) {
+        spectrum.power.assign(512, float(floor));
+        for (const auto &[bin, ratio] : bins)
+            spectrum.power[std::size_t(bin)] = float(floor * ratio);
+        for (int i = 0; i < count; ++i, spectrum.time += 1)
+            detector.process(spectrum);
+    }
+    return detector.detections();
+}
+
 } // namespace
 
 Q_DECLARE_METATYPE(BandMonitor::BandGenerator::struSettings)
+Q_DECLARE_METATYPE(Course)
 
 class tst_SignalDetector : public QObject
 {
@@ -73,6 +98,9 @@ private Q_SLOTS:
     void initTestCase() { QLocale::setDefault(QLocale::c()); }
     void findsCarriers_data();
     void findsCarriers();
+    void decidesAtItsLimits_data();
+    void decidesAtItsLimits();
+    void measuresBinByBin();
     void findsNothingInNoise();
     void measuresTheWidthOfASignal();
     void followsASignalThatComesAndGoes();
@@ -106,6 +134,66 @@ void tst_SignalDetector::findsCarriers()
         QVERIFY(isNear(detections[i].lastSeen, 2, 2 * SpectrumTime));
         QVERIFY(detections[i].bOnAir);
     }
+}
+
+void tst_SignalDetector::decidesAtItsLimits_data()
+{
+    QTest::addColumn<Course>("course");
+    QTest::addColumn<double>("floor");
+    QTest::addColumn<QString>("found"); // bin, whether it is on air, begin
+    const auto row = [](const char *name, const Course &course, const char *found, double floor = 1e-8) {
+        QTest::newRow(name) << course << floor << QString(found);
+    };
+    const struSpectra strong{20, {{100, 20}}};
+    const struSpectra silence{20, {}};
+    row("below 10 dB", {{20, {{100, 9.9}}}}, "");
+    row("above 10 dB", {{20, {{100, 10.1}}}}, "100+0");
+    row("too short", {{2, {{100, 20}}}}, "");
+    row("just long enough", {{3, {{100, 20}}}}, "100+0");
+    row("weak but kept", {strong, {20, {{100, 5.2}}}, {1, {{100, 11}}}}, "100+0");
+    row("weak and lost", {strong, {20, {{100, 4.8}}}, {1, {{100, 11}}}}, "100-0");
+    row("kept over a short pause", {strong, {7, {}}, {1, {{100, 20}}}}, "100+0");
+    row("lost in a longer pause", {strong, {8, {}}, {1, {{100, 20}}}}, "100-0");
+    row("begin with a flash before", {{1, {{100, 20}}}, {5, {}}, {3, {{100, 20}}}}, "100+0");
+    row("begin after a flash", {{1, {{100, 20}}}, {6, {}}, {3, {{100, 20}}}}, "100+7");
+    row("one signal with a gap", {{20, {{100, 20}, {117, 20}}}}, "109+0");
+    row("two signals", {{20, {{100, 20}, {118, 20}}}}, "100+0 118+0");
+    row("moved a little", {strong, silence, {20, {{116, 20}}}}, "111+0"); // of what it was and what it is
+    row("another beside it", {strong, silence, {20, {{117, 20}}}}, "100-0 117+40");
+    const struSpectra wide{20, {{100, 20}, {116, 20}, {132, 20}, {148, 20}, {164, 20}, {180, 20}}};
+    row("a part of a wide one", {wide, silence, {20, {{200, 20}}}}, "163+0");
+    row("another beside a wide one", {wide, silence, {20, {{201, 20}}}}, "140-0 201+40");
+    row("weaker than what the window leaks", {{20, {{100, 1e12}, {300, 2900}}}}, "100+0", 1e-12);
+    row("stronger than that", {{20, {{100, 1e12}, {300, 3100}}}}, "100+0 300+0", 1e-12);
+    row("below the last bit", {{20, {{100, 900}}}}, "", 1e-15);
+    row("above the last bit", {{20, {{100, 1100}}}}, "100+0", 1e-15);
+}
+
+void tst_SignalDetector::decidesAtItsLimits()
+{
+    QFETCH(Course, course);
+    QFETCH(double, floor);
+    QStringList found;
+    for (const struDetection &detection : detectionsAfter(course, floor))
+        found += QString("%1%2%3")
+                     .arg(qRound(detection.frequency))
+                     .arg(detection.bOnAir ? '+' : '-')
+                     .arg(detection.firstSeen);
+    QTEST(found.join(' '), "found");
+}
+
+void tst_SignalDetector::measuresBinByBin()
+{
+    // What the window spreads is part of the signal, up to three bins away.
+    const struSpectra carrier{1000, {{100, 101}, {97, 6}, {104, 6}}};
+    const struSpectra louder{1, {{100, 1101}, {97, 6}, {104, 6}}};
+    const struDetection steady = detectionsAfter({carrier}, 1e-8).at(0);
+    QVERIFY(isNear(steady.frequency, 100 - 3.0 * 5 / 105, 1e-3));
+    QVERIFY(isNear(steady.level, levelOfPower(105e-8), 0.01));
+    const struDetection alone = detectionsAfter({{20, {{100, 101}}}}, 1e-8).at(0);
+    QVERIFY(isNear(alone.bandwidth, 0.99, 1e-4));
+    // A new spectrum counts for 6 %.
+    QVERIFY(isNear(detectionsAfter({carrier, louder}, 1e-8).at(0).level, levelOfPower(165e-8), 0.01));
 }
 
 void tst_SignalDetector::findsNothingInNoise()
