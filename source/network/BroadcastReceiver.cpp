@@ -1,0 +1,171 @@
+// SPDX-FileCopyrightText: 2026 The PYXRuntime developers
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "BroadcastReceiver.h"
+
+#include <QtCore/QElapsedTimer>
+#include <QtCore/QMetaObject>
+#include <QtNetwork/QNetworkProxy>
+#include <QtNetwork/QUdpSocket>
+
+namespace PYXRuntime {
+namespace {
+
+constexpr int UsualDatagramSize = 500;
+constexpr int LargestDatagramSize = 65536;
+// What one turn may take before the thread's other events get theirs, looked at after so many datagrams.
+constexpr qint64 TurnMs = 50;
+constexpr int DatagramsPerLook = 64;
+
+} // namespace
+
+BroadcastReceiver::struParser::struParser(IBroadcastParser *parser)
+    : object(dynamic_cast<QObject *>(parser))
+    , raw(parser)
+{
+    bIsObject = !object.isNull();
+    if (!bIsObject)
+        return;
+    resolved = qobject_cast<IBroadcastParser *>(object.data());
+    if (resolved == nullptr)
+        resolved = dynamic_cast<IBroadcastParser *>(object.data());
+}
+
+IBroadcastParser *BroadcastReceiver::struParser::callee() const
+{
+    if (!bIsObject)
+        return raw;
+    return object.isNull() ? nullptr : resolved;
+}
+
+BroadcastReceiver::BroadcastReceiver(QObject *parent)
+    : QObject(parent)
+{}
+
+BroadcastReceiver::~BroadcastReceiver()
+{
+    _dropSocket();
+}
+
+void BroadcastReceiver::start(quint16 port, IBroadcastParser *parser)
+{
+    start(port, QList<IBroadcastParser *>{parser});
+}
+
+void BroadcastReceiver::start(quint16 port, const QList<IBroadcastParser *> &parsers)
+{
+    m_port = port;
+    _dropSocket();
+    m_parsers.clear();
+    for (IBroadcastParser *parser : parsers)
+        m_parsers += struParser(parser);
+    m_receivedCount = 0;
+    m_failedCount = 0;
+    m_receivedBytes = 0;
+    m_socket = new QUdpSocket(this);
+    m_socket->setProxy(QNetworkProxy::NoProxy);
+    if (m_socket->bind(QHostAddress(QHostAddress::AnyIPv4), port,
+                       QUdpSocket::ShareAddress | QUdpSocket::ReuseAddressHint))
+        m_port = m_socket->localPort();
+    connect(m_socket, &QUdpSocket::readyRead, this, &BroadcastReceiver::_sl_updSocket_readyRead);
+}
+
+void BroadcastReceiver::stop()
+{
+    if (m_socket == nullptr)
+        return;
+    _dropSocket();
+    m_parsers.clear();
+    m_port = 0;
+}
+
+bool BroadcastReceiver::isListening() const
+{
+    return m_socket != nullptr && m_socket->state() == QAbstractSocket::BoundState;
+}
+
+void BroadcastReceiver::_dropSocket()
+{
+    ++m_run;
+    if (m_socket == nullptr)
+        return;
+    if (m_socketsInUse.contains(m_socket)) {
+        // Goes when its signal has been handled; until then it must not take datagrams from its successor.
+        m_socket->disconnect(this);
+        m_socket->setParent(nullptr);
+        m_socket->close();
+    } else {
+        delete m_socket;
+    }
+    m_socket = nullptr;
+}
+
+void BroadcastReceiver::_sl_updSocket_readyRead()
+{
+    _handOnWaiting(true);
+}
+
+/** @param bAnnounced whether the socket has said that there is something. */
+void BroadcastReceiver::_handOnWaiting(bool bAnnounced)
+{
+    if (m_socket == nullptr || m_socketsInUse.contains(m_socket))
+        return;
+    const QPointer<BroadcastReceiver> self(this);
+    QUdpSocket *const socket = m_socket;
+    m_socketsInUse += socket;
+    QElapsedTimer turn;
+    turn.start();
+    QByteArray datagram;
+    datagram.reserve(UsualDatagramSize);
+    QHostAddress sender;
+    for (int count = 1;; ++count) {
+        qint64 size = m_socket->pendingDatagramSize();
+        // What was announced is gone where the system has found it damaged. The socket would stay silent for
+        // ever, if it were not read all the same.
+        if (size < 0 && bAnnounced && count == 1)
+            size = LargestDatagramSize;
+        if (size < 0 || !_readDatagram(size, datagram, sender) || !_handOn(datagram, sender))
+            break;
+        if (count % DatagramsPerLook == 0 && turn.elapsed() >= TurnMs) {
+            QMetaObject::invokeMethod(
+                this, [this] { _handOnWaiting(false); }, Qt::QueuedConnection);
+            break;
+        }
+    }
+    if (self)
+        m_socketsInUse.removeOne(socket);
+    if (!self || m_socket != socket)
+        socket->deleteLater();
+}
+
+bool BroadcastReceiver::_readDatagram(qint64 size, QByteArray &datagram, QHostAddress &sender)
+{
+    datagram.resize(static_cast<int>(size));
+    const qint64 read = m_socket->readDatagram(datagram.data(), datagram.size(), &sender);
+    if (read < 0) {
+        ++m_failedCount;
+        return false;
+    }
+    datagram.truncate(static_cast<int>(read));
+    ++m_receivedCount;
+    m_receivedBytes += static_cast<quint64>(read);
+    return true;
+}
+
+/** @return whether the receiver is still there and still in the same run. */
+bool BroadcastReceiver::_handOn(const QByteArray &datagram, const QHostAddress &sender)
+{
+    const QPointer<BroadcastReceiver> self(this);
+    const quint64 run = m_run;
+    const QList<struParser> parsers = m_parsers;
+    for (const struParser &parser : parsers) {
+        IBroadcastParser *const callee = parser.callee();
+        if (callee == nullptr)
+            continue;
+        callee->parseBroadcastDatagram(datagram, sender, m_port);
+        if (!self || m_run != run)
+            return false;
+    }
+    return true;
+}
+
+} // namespace PYXRuntime
