@@ -24,6 +24,7 @@ const QString Password = QString::fromUtf8("gehéim & <more>");
 class VaultProvider : public NullEncryptionProvider
 {
 public:
+    using NullEncryptionProvider::encrypt;
     QString encryptionProviderId() const override { return "Vault"; }
     QByteArray encrypt(const QString &plain) override { return reversed(plain.toUtf8()); }
     QString decryptToQString(const QByteArray &cipher) override
@@ -214,7 +215,9 @@ void tst_ProxyConfiguration::restoresByItsRules_data()
     value("port as text", "ProxyPort", "81", "3128", "81");
     value("port that is none", "ProxyPort", "http", "3128", "0");
     value("authentication as text", "ProxyAuthenticationRequired", "false", "authenticated", "open");
-    value("damaged password", "ProxyPassword", QByteArray("MTIz"), Password, "");
+    row("damaged password", [](PYXStatusHash &hash) { hash.insert("ProxyPassword", QByteArray("MTIz")); },
+        QString(done).replace(Password, ""),
+        {decrypting.arg("Simple"), "Debug|SimpleEncryptionProvider:staticDecrypt: magic number is wrong"});
     value("no password", "ProxyPassword", QByteArray(), Password, "");
 
     const auto storedBy = [=](const char *id, const QByteArray &cipher) {
@@ -264,9 +267,6 @@ void tst_ProxyConfiguration::restoresByItsRules()
         withoutPlace(tracesOf([&] { bRestored = configuration.restoreFrom(hash, nullptr); }));
     for (QString &trace : written)
         trace = trace.section("|source\\SimpleEncryptionProvider|", 0, 0);
-    if (QTest::currentDataTag() == QLatin1String("damaged password"))
-        QCOMPARE(written.takeLast().section('|', 1),
-                 "SimpleEncryptionProvider:staticDecrypt: magic number is wrong");
     QCOMPARE(written, traces);
     QCOMPARE(bRestored, !expected.isNull());
     QCOMPARE(shown(configuration), expected.isNull() ? before : expected);
@@ -304,8 +304,7 @@ void tst_ProxyConfiguration::restoresFromSettings_data()
         "Proxy Configuration: restore - QVariant type mismatch: expected '12' - actual '%1'";
     QTest::newRow("absent") << QVariant() << QString();
     QTest::newRow("text") << QVariant("xml") << mismatch.arg(10);
-    QTest::newRow("number") << QVariant(7) << mismatch.arg(10); // settings hold numbers as text
-    QTest::newRow("list") << QVariant(QVariantList({1, 2})) << mismatch.arg(11); // of texts
+    QTest::newRow("number") << QVariant(7) << mismatch.arg(2);
     QTest::newRow("empty") << QVariant(QByteArray(""))
                            << "Proxy Configuration: restore - QByteArray is empty";
 }
