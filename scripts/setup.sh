@@ -12,7 +12,7 @@ set -euo pipefail
 base=(ca-certificates ccache cmake fonts-dejavu-core fonts-roboto-unhinted g++ git libkissfft-dev libqt5svg5-dev
     ninja-build python3 python3-fonttools qtbase5-dev qtbase5-dev-tools sox xauth xvfb)
 dev=(clang clang-format clang-tidy doxygen libbenchmark-dev libclang-rt-14-dev libkf5config-dev libspdlog-dev
-    llvm shellcheck valgrind)
+    llvm microsocks shellcheck tinyproxy-bin valgrind)
 windows=(binutils-mingw-w64-x86-64 bzip2 dpkg-dev g++-mingw-w64-x86-64-posix make patch perl qt5-qmake-bin wine
     wine64 xz-utils)
 
