@@ -14,7 +14,7 @@ namespace {
 /** The state of each call begins where the one before it ended, in whichever thread. */
 std::atomic<quint64> &sharedState()
 {
-    static std::atomic<quint64> state(quint64(QDateTime::currentMSecsSinceEpoch()));
+    static std::atomic<quint64> state{quint64(QDateTime::currentMSecsSinceEpoch())};
     return state;
 }
 

@@ -3,8 +3,11 @@
 #include "PYXRuntime.h"
 
 #include "EmbeddedFonts.h"
+#include "Enums.h"
+#include "InitializationCount.h"
 #include "PYXEncryptionManager.h"
 #include "PYXNetworkEntry.h"
+#include "PYXProxyManager.h"
 #include "PYXRuntimeCenter.h"
 #include "PYXStatusHash.h"
 #include "PYXThisRunOnlySettings.h"
@@ -13,8 +16,6 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QSettings>
-
-#include <atomic>
 
 namespace PYXRuntime {
 namespace {
@@ -26,7 +27,6 @@ const QLatin1String MissingName("QCoreApplication::applicationName MUST be set b
 const uint s_runtimeScope =
     PYXRuntimeCenter::registerRuntimeScope(QStringLiteral("PYXRuntime"), QStringLiteral("PYXRuntime"));
 
-std::atomic<int> s_initializationCount(0);
 ePYXInitializeFlags s_initializationFlags;
 bool s_bInitializationResult = false;
 
@@ -66,7 +66,7 @@ void tearDownFonts()
 
 bool initialize_PYXRuntime(ePYXInitializeFlags flags)
 {
-    const int count = ++s_initializationCount;
+    const int count = ++initializationCount;
     if (count != 1) {
         PYXTraceWrapper::staticTraceDebug(
             QStringLiteral("initialize_PYXRuntime called multiple times (%1)").arg(count), TraceFile,
@@ -78,7 +78,9 @@ bool initialize_PYXRuntime(ePYXInitializeFlags flags)
     reportMissingApplicationName();
     QSettings::setDefaultFormat(PYXXmlSettings::format());
     PYXThisRunOnlySettings::makeSureInitialized();
+    Enums::makeSureInitialized();
     PYXEncryptionManager::makeSureInitialized();
+    PYXProxyManager::makeSureInitialized();
     PYXStatusHash::registerMetaType();
     PYXNetworkEntry::registerMetaTypes();
     if (!flags.testFlag(ekInitialize_NoFonts))
@@ -90,7 +92,7 @@ bool initialize_PYXRuntime(ePYXInitializeFlags flags)
 
 void uninitialize_PYXRuntime()
 {
-    const int count = --s_initializationCount;
+    const int count = --initializationCount;
     if (count != 0) {
         PYXTraceWrapper::staticTraceDebug(
             QStringLiteral("uninitialize_PYXRuntime: references still open (%1)").arg(count), TraceFile,
@@ -100,7 +102,9 @@ void uninitialize_PYXRuntime()
     PYXTraceWrapper::staticTraceDebug(
         QStringLiteral("uninitialize_PYXRuntime: last reference gone => cleaning up"), TraceFile, __LINE__);
     tearDownFonts();
+    PYXProxyManager::destroyInstance();
     PYXEncryptionManager::destroyInstance();
+    Enums::destroyInstance();
     PYXThisRunOnlySettings::destroyInstance();
     if (QSettings::defaultFormat() == PYXXmlSettings::format())
         QSettings::setDefaultFormat(QSettings::NativeFormat);
@@ -108,12 +112,12 @@ void uninitialize_PYXRuntime()
 
 bool isInitialized_PYXRuntime()
 {
-    return s_initializationCount != 0;
+    return initializationCount != 0;
 }
 
 int initializitationCount_PYXRuntime()
 {
-    return s_initializationCount;
+    return initializationCount;
 }
 
 ePYXInitializeFlags initializationFlags_PYXRuntime()

@@ -1,0 +1,234 @@
+// SPDX-FileCopyrightText: 2026 The PYXRuntime developers
+// SPDX-License-Identifier: LGPL-3.0-or-later
+
+// Requests over loopback, through real proxies where they are installed: tinyproxy and microsocks.
+
+#include "PYXProxyManager.h"
+#include "PYXRuntime.h"
+#include "SettingsHome.h"
+
+#include <QtCore/QProcess>
+#include <QtNetwork/QHostInfo>
+#include <QtNetwork/QNetworkAccessManager>
+#include <QtNetwork/QNetworkReply>
+#include <QtNetwork/QTcpServer>
+#include <QtNetwork/QTcpSocket>
+#include <QtTest/QtTest>
+
+using namespace PYXRuntime;
+
+namespace {
+
+/** Answers every request and keeps it. */
+class HttpServer : public QTcpServer
+{
+public:
+    HttpServer()
+    {
+        connect(this, &QTcpServer::newConnection, this, [this] {
+            QTcpSocket *const socket = nextPendingConnection();
+            connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
+            connect(socket, &QTcpSocket::readyRead, socket, [this, socket] { answer(socket); });
+        });
+        listen(QHostAddress::Any);
+    }
+    QUrl url(const QString &host) const { return QString("http://%1:%2/file").arg(host).arg(serverPort()); }
+
+    QByteArray request;
+
+private:
+    void answer(QTcpSocket *socket)
+    {
+        request += socket->readAll();
+        if (!request.contains("\r\n\r\n"))
+            return;
+        socket->write("HTTP/1.1 200 OK\r\nContent-Length: 5\r\nConnection: close\r\n\r\nhello");
+        socket->disconnectFromHost();
+    }
+};
+
+quint16 freePort()
+{
+    QTcpServer server;
+    server.listen(QHostAddress::LocalHost);
+    return server.serverPort();
+}
+
+/** A name under which this host reaches itself. Qt never takes a proxy to "localhost". */
+QString ownName()
+{
+    for (const QString &name : {QHostInfo::localHostName(), QString("ip6-localhost")}) {
+        QTcpServer server;
+        server.listen(QHostAddress::Any);
+        QTcpSocket socket;
+        socket.setProxy(QNetworkProxy::NoProxy);
+        socket.connectToHost(name, server.serverPort());
+        if (QHostAddress(name).isNull() && socket.waitForConnected(5000))
+            return name;
+    }
+    return {};
+}
+
+/** A proxy program, as long as the test runs. */
+class ProxyProcess
+{
+public:
+    ~ProxyProcess()
+    {
+        m_process.kill();
+        m_process.waitForFinished();
+    }
+    /** @return why it is not there; nothing if it is. */
+    QString start(const QString &program, const QStringList &arguments, quint16 port)
+    {
+        const QString path = QStandardPaths::findExecutable(program);
+        if (path.isEmpty())
+            return program + " is not installed";
+        m_process.setProcessChannelMode(QProcess::MergedChannels);
+        m_process.start(path, arguments);
+        const auto isReady = [port] {
+            QTcpSocket socket;
+            socket.setProxy(QNetworkProxy::NoProxy);
+            socket.connectToHost(QHostAddress::LocalHost, port);
+            return socket.waitForConnected(1000);
+        };
+        if (m_process.waitForStarted() && QTest::qWaitFor(isReady, 10000))
+            return {};
+        return program + " does not start: " + m_process.readAll();
+    }
+    QByteArray output()
+    {
+        m_output += m_process.readAll();
+        return m_output;
+    }
+
+private:
+    QProcess m_process;
+    QByteArray m_output;
+};
+
+} // namespace
+
+class tst_ProxyEndToEnd : public QObject
+{
+    Q_OBJECT
+private slots:
+    void initTestCase();
+    void cleanupTestCase();
+    void throughHttpProxy_data();
+    void throughHttpProxy();
+    void throughSocksProxy_data();
+    void throughSocksProxy();
+
+private:
+    /** What the server sends, or the error. */
+    QString fetched(const QUrl &url);
+
+    std::unique_ptr<SettingsHome> m_home;
+    QString m_ownName;
+};
+
+void tst_ProxyEndToEnd::initTestCase()
+{
+    m_home = std::make_unique<SettingsHome>();
+    m_ownName = ownName();
+    if (m_ownName.isEmpty())
+        QSKIP("no name leads to this host");
+    initialize_PYXRuntime(ekInitialize_NoFonts);
+}
+
+void tst_ProxyEndToEnd::cleanupTestCase()
+{
+    if (isInitialized_PYXRuntime())
+        uninitialize_PYXRuntime();
+}
+
+QString tst_ProxyEndToEnd::fetched(const QUrl &url)
+{
+    QNetworkAccessManager manager;
+    const std::unique_ptr<QNetworkReply> reply(manager.get(QNetworkRequest(url)));
+    if (!QTest::qWaitFor([&reply] { return reply->isFinished(); }, 20000))
+        return "no answer";
+    if (reply->error() != QNetworkReply::NoError)
+        return QVariant::fromValue(reply->error()).toString();
+    return reply->readAll();
+}
+
+void tst_ProxyEndToEnd::throughHttpProxy_data()
+{
+    QTest::addColumn<bool>("authenticated");
+    QTest::addColumn<QString>("password"); // that we have; the proxy wants "secret"
+    QTest::addColumn<QString>("answer");
+    QTest::newRow("open") << false << ""
+                          << "hello";
+    QTest::newRow("with password") << true << "secret"
+                                   << "hello";
+    QTest::newRow("with wrong password") << true << "wrong"
+                                         << "AuthenticationRequiredError"; // it says 401
+}
+
+void tst_ProxyEndToEnd::throughHttpProxy()
+{
+    QFETCH(bool, authenticated);
+    QFETCH(QString, password);
+    QFETCH(QString, answer);
+    const quint16 port = freePort();
+    QFile file(m_home->path("tinyproxy.conf"));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("Listen 127.0.0.1\nTimeout 30\nViaProxyName \"under-test\"\nPort " + QByteArray::number(port));
+    file.write(authenticated ? "\nBasicAuth user secret\n" : "\n");
+    file.close();
+    ProxyProcess proxy;
+    const QString missing = proxy.start("tinyproxy", {"-d", "-c", file.fileName()}, port);
+    if (!missing.isEmpty())
+        QSKIP(qPrintable(missing));
+
+    ProxyConfiguration configuration("127.0.0.1", port);
+    if (authenticated)
+        configuration.setProxyAuthenticationRequired("user", password);
+    PYXProxyManager::applyProxyConfiguration(configuration);
+    HttpServer server;
+    QCOMPARE(fetched(server.url(m_ownName)), answer);
+    QCOMPARE(server.request.contains("under-test"), answer == "hello");
+    QVERIFY(!server.request.contains("Proxy-Authorization"));
+    server.request.clear();
+    QCOMPARE(fetched(server.url("127.0.0.1")), "hello");
+    QVERIFY(server.request.startsWith("GET /file ") && !server.request.contains("under-test"));
+}
+
+void tst_ProxyEndToEnd::throughSocksProxy_data()
+{
+    QTest::addColumn<QString>("password");
+    QTest::addColumn<QString>("answer");
+    QTest::newRow("with password") << "secret"
+                                   << "hello";
+    QTest::newRow("with wrong password") << "wrong"
+                                         << "ProxyAuthenticationRequiredError";
+}
+
+void tst_ProxyEndToEnd::throughSocksProxy()
+{
+    QFETCH(QString, password);
+    QFETCH(QString, answer);
+    const quint16 port = freePort();
+    ProxyProcess proxy;
+    const QString missing = proxy.start(
+        "microsocks", {"-i", "127.0.0.1", "-p", QString::number(port), "-u", "user", "-P", "secret"}, port);
+    if (!missing.isEmpty())
+        QSKIP(qPrintable(missing));
+
+    ProxyConfiguration configuration("127.0.0.1", port, "user", password);
+    configuration.setProxyVariant(Enums::ekProxyVariant_SOCKS5);
+    PYXProxyManager::applyProxyConfiguration(configuration);
+    HttpServer server;
+    const QByteArray connected =
+        QString("connected to %1:%2").arg(m_ownName).arg(server.serverPort()).toUtf8();
+    QCOMPARE(fetched(server.url("127.0.0.1")), "hello");
+    QVERIFY(!proxy.output().contains("connected to"));
+    QCOMPARE(fetched(server.url(m_ownName)), answer);
+    if (answer == "hello")
+        QTRY_VERIFY2(proxy.output().contains(connected), proxy.output().constData());
+}
+
+QTEST_GUILESS_MAIN(tst_ProxyEndToEnd)
+#include "tst_ProxyEndToEnd.moc"
