@@ -7,11 +7,13 @@
 #include "Colours.h"
 #include "DetectionDock.h"
 #include "DetectorDialog.h"
+#include "FetchDialog.h"
 #include "HeadlessRun.h"
 #include "LogDock.h"
 #include "RecentRecordings.h"
 #include "SignalMonitor.h"
 #include "SpectrumView.h"
+#include "StationDock.h"
 #include "SymbolIcon.h"
 #include "TableText.h"
 #include "Units.h"
@@ -28,6 +30,7 @@
 #include <QtWidgets/QAction>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
+#include <QtWidgets/QInputDialog>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QMenuBar>
 #include <QtWidgets/QMessageBox>
@@ -105,7 +108,7 @@ void MainWindow::showEvent(QShowEvent *event)
     if (event->spontaneous() || m_bArranged)
         return;
     m_bArranged = true;
-    const QList<QDockWidget *> docks = findChildren<QDockWidget *>();
+    const QList<QDockWidget *> docks = {m_detectionDock, m_stationDock};
     resizeDocks(docks, {int(width() * TableShare), int(width() * (1 - TableShare))}, Qt::Horizontal);
     resizeDocks(docks, {int(height() * DockShare), int(height() * DockShare)}, Qt::Vertical);
 }
@@ -148,7 +151,11 @@ void MainWindow::_createDocks()
     m_detectionDock = new DetectionDock(this);
     connect(m_detectionDock, &DetectionDock::si_selected, m_spectrumView, &SpectrumView::setSelected);
     addDockWidget(Qt::BottomDockWidgetArea, m_detectionDock);
-    addDockWidget(Qt::BottomDockWidgetArea, new LogDock(this));
+    auto *const logDock = new LogDock(this);
+    addDockWidget(Qt::BottomDockWidgetArea, logDock);
+    m_stationDock = new StationDock(this);
+    tabifyDockWidget(logDock, m_stationDock);
+    logDock->raise();
 }
 
 void MainWindow::_createActions()
@@ -196,6 +203,10 @@ void MainWindow::_createFileMenu(const QList<QAction *> &sourceActions)
     QMenu *const fileMenu = menuBar()->addMenu(tr("&File"));
     fileMenu->addActions(sourceActions);
     fileMenu->insertMenu(sourceActions.last(), recentMenu);
+    auto *const openUrlAction = new QAction(tr("Open &URL..."), this);
+    openUrlAction->setObjectName(QStringLiteral("openUrlAction"));
+    connect(openUrlAction, &QAction::triggered, this, &MainWindow::_sl_openUrlAction_triggered);
+    fileMenu->insertAction(recentMenu->menuAction(), openUrlAction);
     fileMenu->addSeparator();
     fileMenu
         ->addAction(tr("&Save Signals..."), this, &MainWindow::_sl_saveAction_triggered, QKeySequence::Save)
@@ -264,6 +275,11 @@ void MainWindow::openOwnBand()
     _setSource(std::make_unique<BandGenerator>(BandGenerator::ownBand()));
 }
 
+void MainWindow::joinNetworks()
+{
+    m_stationDock->start();
+}
+
 void MainWindow::_restart()
 {
     if (m_path.isEmpty())
@@ -322,6 +338,20 @@ void MainWindow::_sl_openAction_triggered()
     const QString path = filter.getOpenFileName(this, tr("Open Recording"));
     if (!path.isEmpty())
         openRecording(path);
+}
+
+void MainWindow::_sl_openUrlAction_triggered()
+{
+    const QString text = QInputDialog::getText(this, tr("Open URL"), tr("Address of the recording:"),
+                                               QLineEdit::Normal, QStringLiteral("https://"));
+    const QUrl url = QUrl::fromUserInput(text.trimmed());
+    if (text.isEmpty() || !url.isValid())
+        return;
+    auto *const dialog = new FetchDialog(url, this);
+    connect(dialog, &FetchDialog::si_fetched, this, &MainWindow::openRecording);
+    connect(dialog, &FetchDialog::si_failed, this, [this](const QString &reason) {
+        complain(this, tr("This recording cannot be fetched."), reason, __LINE__);
+    });
 }
 
 void MainWindow::_sl_saveAction_triggered()

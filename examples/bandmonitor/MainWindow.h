@@ -23,6 +23,7 @@ class FrequencyAxis;
 class RecentRecordings;
 class SignalMonitor;
 class SpectrumView;
+class StationDock;
 class WaterfallView;
 
 /** The window: plays a recording or the program's own band and shows what is in it. */
@@ -38,6 +39,8 @@ public:
     /** Shows a message and goes on with what is played already where the file is no recording. */
     bool openRecording(const QString &path);
     void openOwnBand();
+    /** Begins to announce itself on the networks of this host, and to listen to others. */
+    void joinNetworks();
     void setPlaying(bool bPlaying);
     /** Processes the whole recording, or some seconds of the own band, without a pause. */
     void playToEnd();
@@ -63,6 +66,7 @@ private:
     void _showDetections();
     void _showState();
     void _sl_openAction_triggered();
+    void _sl_openUrlAction_triggered();
     void _sl_saveAction_triggered();
     void _sl_detectorAction_triggered();
     void _sl_playTimer_timeout();
@@ -80,6 +84,7 @@ private:
     SpectrumView *m_spectrumView = nullptr;
     WaterfallView *m_waterfallView = nullptr;
     DetectionDock *m_detectionDock = nullptr;
+    StationDock *m_stationDock = nullptr;
     QAction *m_playAction = nullptr;
     QAction *m_darkAction = nullptr;
     QComboBox *m_speedBox = nullptr;

@@ -116,6 +116,8 @@ int runWindow(const QCommandLineParser &parser, const QString &path)
         window.resize(size.at(0).toInt(), size.at(1).toInt());
     if (parser.isSet(DarkOption))
         window.setDark(true);
+    if (!parser.isSet(ScreenshotOption))
+        window.joinNetworks();
     window.show();
     const bool bOpened = !path.isEmpty() && window.openRecording(path);
     if (!bOpened)

@@ -1,0 +1,154 @@
+// SPDX-FileCopyrightText: 2026 The PYXRuntime developers
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "RecordingFetcher.h"
+
+#include <QtCore/QDir>
+#include <QtCore/QTemporaryDir>
+#include <QtNetwork/QTcpServer>
+#include <QtNetwork/QTcpSocket>
+#include <QtTest/QtTest>
+
+using namespace BandMonitor;
+
+namespace {
+
+const QByteArray Content(3'000'000, 'x');
+
+/** Answers every request by its path. */
+class Server final : public QTcpServer
+{
+public:
+    Server()
+    {
+        listen(QHostAddress::LocalHost);
+        connect(this, &QTcpServer::newConnection, this, [this] {
+            QTcpSocket *const socket = nextPendingConnection();
+            connect(socket, &QTcpSocket::readyRead, socket, [socket] {
+                const QByteArray request = socket->readAll();
+                if (request.startsWith("GET /good"))
+                    socket->write(head("200 OK") + Content);
+                else if (request.startsWith("GET /private") && !request.contains("Authorization: Basic dTpw"))
+                    socket->write("HTTP/1.1 401 No\r\nWWW-Authenticate: Basic realm=\"r\"\r\n"
+                                  "Content-Length: 0\r\n\r\n");
+                else if (request.startsWith("GET /private"))
+                    socket->write(head("200 OK") + Content);
+                else if (request.startsWith("GET /cut"))
+                    socket->write(head("200 OK") + Content.left(1000));
+                else if (!request.startsWith("GET /silent"))
+                    socket->write("HTTP/1.1 404 Not Found\r\nContent-Length: 0\r\n\r\n");
+                if (request.startsWith("GET /cut"))
+                    socket->disconnectFromHost();
+            });
+        });
+    }
+
+    QUrl url(const QString &path) const
+    {
+        return QString("http://127.0.0.1:%1/%2").arg(serverPort()).arg(path);
+    }
+
+private:
+    static QByteArray head(const QByteArray &status)
+    {
+        return "HTTP/1.1 " + status + "\r\nContent-Length: " + QByteArray::number(Content.size()) +
+               "\r\n\r\n";
+    }
+};
+
+} // namespace
+
+class tst_RecordingFetcher : public QObject
+{
+    Q_OBJECT
+private slots:
+    void init() { m_directory.reset(new QTemporaryDir); }
+    void fetches();
+    void fails_data();
+    void fails();
+    void canBeGivenUp();
+
+private:
+    QStringList files() const
+    {
+        return QDir(m_directory->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
+    }
+
+    Server m_server;
+    QScopedPointer<QTemporaryDir> m_directory;
+};
+
+void tst_RecordingFetcher::fetches()
+{
+    RecordingFetcher fetcher(m_directory->filePath("new"));
+    QSignalSpy fetched(&fetcher, &RecordingFetcher::si_fetched);
+    QSignalSpy progress(&fetcher, &RecordingFetcher::si_progress);
+    fetcher.fetch(m_server.url("good/..%5Codd%3Aname.wav"));
+    QVERIFY(fetched.wait());
+    QFile file(fetched.at(0).at(0).toString());
+    QVERIFY2(file.fileName().endsWith("-.._odd_name.wav"), qPrintable(file.fileName()));
+    QVERIFY(file.open(QIODevice::ReadOnly));
+    QVERIFY(file.readAll() == Content);
+    QCOMPARE(progress.last(), QVariantList({qint64(Content.size()), qint64(Content.size())}));
+
+    QUrl withPassword = m_server.url("private.wav");
+    withPassword.setUserInfo("u:p");
+    fetcher.fetch(withPassword);
+    QVERIFY(fetched.wait());
+    QVERIFY(fetched.at(1) != fetched.at(0));
+}
+
+void tst_RecordingFetcher::fails_data()
+{
+    QTest::addColumn<QString>("path");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("not there") << "missing.wav"
+                               << "Not Found";
+    QTest::newRow("cut off") << "cut.wav"
+                             << "closed";
+    QTest::newRow("wrong password") << "private.wav"
+                                    << "authentication";
+    QTest::newRow("no directory") << "good.wav"
+                                  << "directory";
+}
+
+void tst_RecordingFetcher::fails()
+{
+    QFETCH(QString, path);
+    QFETCH(QString, reason);
+    QString directory = m_directory->path();
+    if (reason == "directory") {
+        QFile wall(m_directory->filePath("wall"));
+        QVERIFY(wall.open(QIODevice::WriteOnly));
+        directory = wall.fileName() + "/below";
+    }
+    RecordingFetcher fetcher(directory);
+    QSignalSpy failed(&fetcher, &RecordingFetcher::si_failed);
+    QSignalSpy fetched(&fetcher, &RecordingFetcher::si_fetched);
+    QUrl url = m_server.url(path);
+    url.setUserInfo("u:wrong");
+    fetcher.fetch(url);
+    QVERIFY(failed.wait());
+    const QString text = failed.at(0).at(0).toString();
+    QVERIFY2(text.contains(reason) || reason == "directory", qPrintable(text));
+    QVERIFY2(!text.contains("wrong"), qPrintable(text));
+    QCOMPARE(fetched.size(), 0);
+    QCOMPARE(files().size(), reason == "directory" ? 1 : 0);
+}
+
+void tst_RecordingFetcher::canBeGivenUp()
+{
+    RecordingFetcher fetcher(m_directory->path());
+    QSignalSpy failed(&fetcher, &RecordingFetcher::si_failed);
+    QSignalSpy fetched(&fetcher, &RecordingFetcher::si_fetched);
+    fetcher.fetch(m_server.url("silent.wav"));
+    fetcher.cancel();
+    QCOMPARE(files().size(), 0);
+    fetcher.fetch(m_server.url("cut.wav"));
+    fetcher.fetch(m_server.url("good.wav"));
+    QVERIFY(fetched.wait());
+    QCOMPARE(failed.size(), 0);
+    QCOMPARE(files().size(), 1);
+}
+
+QTEST_GUILESS_MAIN(tst_RecordingFetcher)
+#include "tst_RecordingFetcher.moc"
