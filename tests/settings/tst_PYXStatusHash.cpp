@@ -64,16 +64,6 @@ QVariant nested(const PYXStatusHash &hash)
     return QVariant::fromValue(hash);
 }
 
-/** Types and contents: QVariant compares many types by address. Hashes have no order of their own. */
-QByteArray contentOf(const QVariant &value)
-{
-    if (value.userType() == qMetaTypeId<PYXStatusHash>())
-        return contentOf(value.value<PYXStatusHash>().toXml());
-    if (value.userType() != QMetaType::QVariantHash)
-        return streamed(value, QDataStream::Qt_4_6);
-    return contentOf(hashOf(value.toHash()).toXml());
-}
-
 /** Only characters that XML has. */
 QString randomKey(QRandomGenerator &random)
 {
@@ -351,10 +341,12 @@ void tst_PYXStatusHash::keepsTextsThatXmlCannotHold()
     const auto unit = [](ushort c) { return QString(QChar(c)); };
     PYXStatusHash hash;
     for (const QString &text :
-         {QString("a\r\nb\rc"), QString("  "), QString("\n"), QString("]]>"), unit(0), unit(1), unit(0xD800),
-          unit(0xDC00) + unit(0xD800), unit(0xFFFF), QString::fromUtf8("\U0001F4E1")})
+         {QString(""), QString("a\r\nb\rc"), QString("  "), QString("\n"), QString("]]>"), unit(0), unit(1),
+          unit(0xD800), unit(0xDC00) + unit(0xD800), unit(0xFFFF), QString::fromUtf8("\U0001F4E1")})
         hash.insert("t" + QString::number(hash.keys().size()), text);
-    QVERIFY(PYXStatusHash::fromXml(hash.toXml()) == hash);
+    const PYXStatusHash restored = PYXStatusHash::fromXml(hash.toXml());
+    QVERIFY(restored == hash);
+    QVERIFY(!restored.value("t0").isNull());
 }
 
 void tst_PYXStatusHash::roundsRectanglesInXml()
@@ -508,16 +500,10 @@ void tst_PYXStatusHash::roundTripsRandomContent()
         }
         hash.insert("hash", inner);
         hash.insert("status", hashOf(inner, 9));
-        const PYXStatusHash fromBytes = PYXStatusHash::fromSerialized(hash.serialize());
-        const PYXStatusHash fromXml = PYXStatusHash::fromXml(hash.toXml());
-        QCOMPARE(fromXml.keys().size(), hash.keys().size());
-        for (const QString &key : hash.keys()) {
-            const QByteArray expected = contentOf(hash.value(key));
-            const bool bSame =
-                contentOf(fromBytes.value(key)) == expected && contentOf(fromXml.value(key)) == expected;
-            const QString where = QString("seed %1, %2").arg(seed).arg(hash.value(key).typeName());
-            QVERIFY2(bSame, qPrintable(where));
-        }
+        const QByteArray xml = hash.toXml();
+        const bool bSame = PYXStatusHash::fromSerialized(hash.serialize()).toXml() == xml &&
+                           PYXStatusHash::fromXml(xml).toXml() == xml;
+        QVERIFY2(bSame, qPrintable(QString("seed %1, round %2").arg(seed).arg(i)));
     }
 }
 
