@@ -46,14 +46,12 @@ private slots:
     void portablePrograms();
     void markedProgramIsPortable();
     void pathsOnThePortableDrive();
-    void settingsFollowTheirDirectories_data();
     void settingsFollowTheirDirectories();
     void laterDefaultFormatIsPointedToo();
     void switchesRecompute();
     void sharedPathsComeFromTheSettings();
     void overriddenPathsMoveWhatIsBelow();
-    void createsDirectories();
-    void remembersDirectories();
+    void createsAndRemembersDirectories();
 
 private:
     /** "{5}" stands for the shell's folder 5, "{mount}" for the drive without a letter. */
@@ -94,12 +92,10 @@ void tst_PYXApplicationInfoImpl::cleanup()
 void tst_PYXApplicationInfoImpl::standardObjectIsRegistered()
 {
     const QUuid id("{4CF3FCA3-26E7-44a9-8C81-D91832DCF07D}");
-    QObject *const object = PYXBroker::getInstance()->topObject(id, 0);
-    QVERIFY(object != nullptr);
-    QCOMPARE(object->objectName(), QString("PYXBroker:stdApplicationInfo"));
-    QCOMPARE(object->parent(), PYXBroker::getInstance());
-    QCOMPARE(PYXBroker::getInstance()->topObject<PYXIApplicationInfo>(),
-             static_cast<PYXIApplicationInfo *>(qobject_cast<Info *>(object)));
+    auto *const standard = qobject_cast<Info *>(PYXBroker::getInstance()->topObject(id, 0));
+    QVERIFY(standard != nullptr);
+    QCOMPARE(standard->objectName(), QString("PYXBroker:stdApplicationInfo"));
+    QCOMPARE(standard->parent(), PYXBroker::getInstance());
     Info own;
     const PYXBrokerRegistration registration(id, 0, &own);
     QCOMPARE(PYXBroker::getInstance()->topObject<PYXIApplicationInfo>(), &own);
@@ -326,49 +322,40 @@ void tst_PYXApplicationInfoImpl::pathsOnThePortableDrive()
     }
 }
 
-void tst_PYXApplicationInfoImpl::settingsFollowTheirDirectories_data()
-{
-    QTest::addColumn<bool>("removable");
-    QTest::addColumn<bool>("compatible");
-    QTest::addColumn<int>("switched"); // -1: left alone
-    QTest::addColumn<QString>("user");
-    QTest::addColumn<QString>("system");
-    const QString local = "{mount}/portable/Personal/AppData/Local";
-    const QString common = "{mount}/portable/Common/AppData";
-    const QString home = "{mount}/../";
-    QTest::newRow("installed") << false << false << -1 << home + "user" << home + "system";
-    QTest::newRow("installed, on") << false << false << 1 << "{28}"
-                                   << "{35}";
-    QTest::newRow("portable") << true << false << -1 << local << common;
-    QTest::newRow("portable, off") << true << false << 0 << home + "user" << home + "system";
-    const QString compatible = home + "App/portable/Local Data/Organisation/Application/";
-    QTest::newRow("compatible") << true << true << -1 << compatible + "userSettings"
-                                << compatible + "defaultSettings";
-}
-
 void tst_PYXApplicationInfoImpl::settingsFollowTheirDirectories()
 {
-    QFETCH(bool, compatible);
-    QFETCH(int, switched);
-    QFETCH(QString, user);
-    QFETCH(QString, system);
-    // With a drive letter the portable tree would lie in the root of a real drive.
-    m_program = compatible ? m_home->path("App") : QString("/media/App");
-    QFETCH(bool, removable);
-    m_bRemovable = removable;
-    Info info;
-    info.setSpecialDirCompatibilityMode(compatible);
-    if (switched >= 0)
-        info.setInitializeSettingsPaths(switched != 0);
-    info.saveLastDirPath("open", "/somewhere");
-    const auto isIn = [this](const QString &place, const char *file, PYXSettings::ePurpose purpose) {
-        return QDir::cleanPath(PYXSettings(purpose).fileName()) == QDir::cleanPath(expanded(place)) + file;
-    };
-    QVERIFY(isIn(user, "/Organisation/Application.PYXXml", PYXSettings::eUserApplicationSettings));
-    QVERIFY(isIn(system, "/Organisation/SharedSettings.PYXXml", PYXSettings::eDefaultSharedSettings));
-    QVERIFY(QFile::exists(PYXSettings(PYXSettings::eUserApplicationSettings).fileName()));
-    // In the compatibility mode the default shared paths are not written.
-    QCOMPARE(QFile::exists(PYXSettings(PYXSettings::eDefaultSharedSettings).fileName()), !compatible);
+    const QString tree = "{mount}/portable/";
+    const QString compatible = "{mount}/../App/portable/Local Data/Organisation/Application/";
+    const struct
+    {
+        bool bRemovable;
+        bool bCompatible;
+        int switched; ///< below zero: left alone
+        QString user;
+        QString system;
+    } rows[] = {{false, false, -1, "{mount}/../user", "{mount}/../system"},
+                {false, false, 1, "{28}", "{35}"},
+                {true, false, -1, tree + "Personal/AppData/Local", tree + "Common/AppData"},
+                {true, false, 0, "{mount}/../user", "{mount}/../system"},
+                {true, true, -1, compatible + "userSettings", compatible + "defaultSettings"}};
+    for (const auto &row : rows) {
+        m_home.reset(new SettingsHome);
+        // With a drive letter the portable tree would lie in the root of a real drive.
+        m_program = row.bCompatible ? m_home->path("App") : QString("/media/App");
+        m_bRemovable = row.bRemovable;
+        Info info;
+        info.setSpecialDirCompatibilityMode(row.bCompatible);
+        if (row.switched >= 0)
+            info.setInitializeSettingsPaths(row.switched != 0);
+        info.saveLastDirPath("open", "/somewhere");
+        const QString user = QDir::cleanPath(expanded(row.user)) + "/Organisation/Application.PYXXml";
+        const QString system = QDir::cleanPath(expanded(row.system)) + "/Organisation/SharedSettings.PYXXml";
+        QCOMPARE(QDir::cleanPath(PYXSettings(PYXSettings::eUserApplicationSettings).fileName()), user);
+        QCOMPARE(QDir::cleanPath(PYXSettings(PYXSettings::eDefaultSharedSettings).fileName()), system);
+        QVERIFY(QFile::exists(user));
+        // In the compatibility mode the default shared paths are not written.
+        QCOMPARE(QFile::exists(system), !row.bCompatible);
+    }
 }
 
 void tst_PYXApplicationInfoImpl::laterDefaultFormatIsPointedToo()
@@ -443,24 +430,17 @@ void tst_PYXApplicationInfoImpl::overriddenPathsMoveWhatIsBelow()
              QString("Z:/moved/Organisation/Shared/scripts"));
 }
 
-void tst_PYXApplicationInfoImpl::createsDirectories()
+void tst_PYXApplicationInfoImpl::createsAndRemembersDirectories()
 {
     Info info;
     const QString logs = info.getSpecialDirPath(Info::eApplicationLogsDir, false);
     QVERIFY(!QDir(logs).exists());
     QCOMPARE(info.getSpecialDirPath(Info::eApplicationLogsDir, true), logs);
     QVERIFY(QDir(logs).exists());
-
-    QVERIFY(QDir::setCurrent(m_home->path({})));
-    info.getSpecialDirPath(Info::eApplicationDriveLetter, true);
+    info.getSpecialDirPath(Info::eApplicationDriveLetter, true); // is none
     QVERIFY(!QFile::exists("C"));
-    QVERIFY(QDir::setCurrent(QCoreApplication::applicationDirPath()));
     QVERIFY(Info::createPath({}));
-}
 
-void tst_PYXApplicationInfoImpl::remembersDirectories()
-{
-    Info info;
     QCOMPARE(info.getLastDirPath("open"), QString());
     QCOMPARE(info.getLastDir("open").absolutePath(), QDir::currentPath());
     info.saveLastDirPath("open %1 %3", "/recordings/%2");

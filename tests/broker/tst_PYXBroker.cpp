@@ -46,8 +46,7 @@ private slots:
     void unregisteringRemovesEveryOccurrence();
     void signalsOfUnregistering();
     void interfacesHaveNames();
-    void typedLookUp();
-    void registrationGuard();
+    void typedLookUpAndGuard();
     void copiesOfAllRegistrations();
     void waitingWithEvents();
     void waitingInAThread();
@@ -177,7 +176,7 @@ void tst_PYXBroker::interfacesHaveNames()
     QCOMPARE(m_broker->declaredInterface(m_id), QString("Second"));
 }
 
-void tst_PYXBroker::typedLookUp()
+void tst_PYXBroker::typedLookUpAndGuard()
 {
     QCOMPARE(m_broker->topObject<IGreeter>(), nullptr);
     Greeter greeter;
@@ -189,10 +188,7 @@ void tst_PYXBroker::typedLookUp()
     QCOMPARE(m_broker->topObject<IGreeter>()->greeting(), QString("..."));
     const PYXBrokerRegistration third(id, 0, this);
     QCOMPARE(m_broker->topObject<IGreeter>(), nullptr);
-}
 
-void tst_PYXBroker::registrationGuard()
-{
     QObject a;
     auto mortal = std::make_unique<QObject>();
     {

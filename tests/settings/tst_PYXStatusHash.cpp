@@ -64,16 +64,6 @@ QVariant nested(const PYXStatusHash &hash)
     return QVariant::fromValue(hash);
 }
 
-/** Types and contents: QVariant compares many types by address. Hashes have no order of their own. */
-QByteArray contentOf(const QVariant &value)
-{
-    if (value.userType() == qMetaTypeId<PYXStatusHash>())
-        return contentOf(value.value<PYXStatusHash>().toXml());
-    if (value.userType() != QMetaType::QVariantHash)
-        return streamed(value, QDataStream::Qt_4_6);
-    return contentOf(hashOf(value.toHash()).toXml());
-}
-
 /** Only characters that XML has. */
 QString randomKey(QRandomGenerator &random)
 {
@@ -89,10 +79,9 @@ class tst_PYXStatusHash : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void newHashSerializesToNothing();
     void writesTheBinaryForm_data();
     void writesTheBinaryForm();
-    void keepsItsCacheUntilItChanges();
+    void serializesWhatHasChanged();
     void takesOnlyItsMagicNumber();
     void warnsOfUnknownFormatVersion();
     void refusesHostileBytes_data();
@@ -106,24 +95,12 @@ private Q_SLOTS:
     void refusesHostileXml_data();
     void refusesHostileXml();
     void refusesTruncatedForms();
-    void readsElementsOfADocument();
+    void isPartOfADocument();
     void leavesOutWhatCouldNotBeRestored();
     void roundTripsRandomContent();
     void comparesByContent();
     void streamsInsideOtherData();
 };
-
-void tst_PYXStatusHash::newHashSerializesToNothing()
-{
-    PYXStatusHash hash(0x1234, QDataStream::Qt_5_6);
-    QCOMPARE(hash.serialize(), QByteArray());
-    QVERIFY(hash.restoreFrom(QByteArray()));
-    QVERIFY(hash.isEmpty());
-    QCOMPARE(hash.magicNumber(), 0x1234U);
-    QCOMPARE(hash.datastreamVersion(), QDataStream::Qt_5_6);
-    QCOMPARE(PYXStatusHash().magicNumber(), 0U);
-    QVERIFY(!hash.value("missing").isValid());
-}
 
 void tst_PYXStatusHash::writesTheBinaryForm_data()
 {
@@ -162,25 +139,28 @@ void tst_PYXStatusHash::writesTheBinaryForm()
     QVERIFY(restored == hash);
 }
 
-void tst_PYXStatusHash::keepsItsCacheUntilItChanges()
+void tst_PYXStatusHash::serializesWhatHasChanged()
 {
+    PYXStatusHash hash(0x1234, QDataStream::Qt_5_6);
+    QCOMPARE(hash.serialize(), QByteArray());
+    QVERIFY(hash.restoreFrom(QByteArray()));
+    QVERIFY(hash.isEmpty());
+    QCOMPARE(hash.datastreamVersion(), QDataStream::Qt_5_6);
+
     const QByteArray form = oneEntry() + bytesOf(2U, NotNull, 5);
     const QByteArray input = form + "more"; // shows whether the input is kept
-    PYXStatusHash hash;
+    hash = PYXStatusHash();
     QVERIFY(hash.restoreFrom(input));
     hash.remove("missing");
     QCOMPARE(hash.serialize(), input);
     hash.insert("a", 5);
     QCOMPARE(hash.serialize(), form);
-
     QVERIFY(hash.restoreFrom(input));
     QVERIFY(hash.restoreFromXml("<StatusHash><a type='Int'>5</a></StatusHash>"));
     QCOMPARE(hash.serialize(), form);
-
     QVERIFY(!hash.restoreFrom("rubbish"));
     QVERIFY(hash.isEmpty());
     QCOMPARE(hash.serialize(), QByteArray());
-    QVERIFY(PYXStatusHash::fromSerialized(form).hasSameContentsAs(hashOf({{"a", 5}})));
 }
 
 void tst_PYXStatusHash::takesOnlyItsMagicNumber()
@@ -318,13 +298,6 @@ void tst_PYXStatusHash::writesTheXmlForm()
 </StatusHash>)";
     QCOMPARE(hash.toXml(), expected);
     QVERIFY(PYXStatusHash::fromXml(expected) == hash);
-
-    QString embedded;
-    QXmlStreamWriter writer(&embedded);
-    writer.writeStartElement("State");
-    hashOf({{"a", 1}}).toXmlStream(writer);
-    writer.writeEndElement();
-    QCOMPARE(embedded, QString("<State><StatusHash magic=\"0\"><a type=\"Int\">1</a></StatusHash></State>"));
 }
 
 void tst_PYXStatusHash::writesAnyKey()
@@ -351,10 +324,12 @@ void tst_PYXStatusHash::keepsTextsThatXmlCannotHold()
     const auto unit = [](ushort c) { return QString(QChar(c)); };
     PYXStatusHash hash;
     for (const QString &text :
-         {QString("a\r\nb\rc"), QString("  "), QString("\n"), QString("]]>"), unit(0), unit(1), unit(0xD800),
-          unit(0xDC00) + unit(0xD800), unit(0xFFFF), QString::fromUtf8("\U0001F4E1")})
+         {QString(""), QString("a\r\nb\rc"), QString("  "), QString("\n"), QString("]]>"), unit(0), unit(1),
+          unit(0xD800), unit(0xDC00) + unit(0xD800), unit(0xFFFF), QString::fromUtf8("\U0001F4E1")})
         hash.insert("t" + QString::number(hash.keys().size()), text);
-    QVERIFY(PYXStatusHash::fromXml(hash.toXml()) == hash);
+    const PYXStatusHash restored = PYXStatusHash::fromXml(hash.toXml());
+    QVERIFY(restored == hash);
+    QVERIFY(!restored.value("t0").isNull());
 }
 
 void tst_PYXStatusHash::roundsRectanglesInXml()
@@ -457,19 +432,25 @@ void tst_PYXStatusHash::refusesTruncatedForms()
                  qPrintable(QString::number(length)));
 }
 
-void tst_PYXStatusHash::readsElementsOfADocument()
+void tst_PYXStatusHash::isPartOfADocument()
 {
     const PYXStatusHash whole =
         hashOf({{"a", "x"}, {"line", QLineF(1, 2, 3, 4)}, {"s", nested(hashOf({{"x", 1}}, 4))}}, 5);
+    QString xml;
+    QXmlStreamWriter writer(&xml);
+    writer.writeStartElement("State");
+    whole.toXmlStream(writer);
+    hashOf({{"b", 1}}, 6).toXmlStream(writer);
+    writer.writeEndElement();
+    QVERIFY(xml.endsWith("<StatusHash magic=\"6\"><b type=\"Int\">1</b></StatusHash></State>"));
     QDomDocument document;
-    QVERIFY(document.setContent("<State>" + whole.toXml() + "<StatusHash magic='6'/></State>"));
+    QVERIFY(document.setContent(xml));
     QDomElement root = document.documentElement();
     QDomElement first = root.firstChildElement();
     QDomElement second = root.lastChildElement();
     PYXStatusHash hash(5);
     QVERIFY(!hash.restoreFromXml(root));
     QVERIFY(hash.restoreFromXml(first));
-    QVERIFY(hash == whole);
     QVERIFY(!hash.restoreFromXml(second));
     QVERIFY(hash == whole);
 }
@@ -508,16 +489,10 @@ void tst_PYXStatusHash::roundTripsRandomContent()
         }
         hash.insert("hash", inner);
         hash.insert("status", hashOf(inner, 9));
-        const PYXStatusHash fromBytes = PYXStatusHash::fromSerialized(hash.serialize());
-        const PYXStatusHash fromXml = PYXStatusHash::fromXml(hash.toXml());
-        QCOMPARE(fromXml.keys().size(), hash.keys().size());
-        for (const QString &key : hash.keys()) {
-            const QByteArray expected = contentOf(hash.value(key));
-            const bool bSame =
-                contentOf(fromBytes.value(key)) == expected && contentOf(fromXml.value(key)) == expected;
-            const QString where = QString("seed %1, %2").arg(seed).arg(hash.value(key).typeName());
-            QVERIFY2(bSame, qPrintable(where));
-        }
+        const QByteArray xml = hash.toXml();
+        const bool bSame = PYXStatusHash::fromSerialized(hash.serialize()).toXml() == xml &&
+                           PYXStatusHash::fromXml(xml).toXml() == xml;
+        QVERIFY2(bSame, qPrintable(QString("seed %1, round %2").arg(seed).arg(i)));
     }
 }
 
