@@ -10,7 +10,6 @@
 #include <QtWidgets/QAction>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QFormLayout>
-#include <QtWidgets/QLabel>
 #include <QtWidgets/QMenu>
 
 using namespace PYXRuntime;
@@ -39,13 +38,10 @@ private slots:
     void typing();
     void leavingCompletesTheAddress_data();
     void leavingCompletesTheAddress();
-    void pastingByKeyReplacesAll();
-    void pastingFromTheMenu();
-    void anyWayOfInsertingTakesOtherForms();
+    void pasting();
     void settingAnAddress();
     void switchingTheProtocol();
-    void validityIsSaid();
-    void names();
+    void whatAScreenReaderSays();
 };
 
 void tst_PYXAddressEdit::typing()
@@ -108,35 +104,24 @@ void tst_PYXAddressEdit::leavingCompletesTheAddress()
     QCOMPARE(edit.text(), left);
 }
 
-void tst_PYXAddressEdit::pastingByKeyReplacesAll()
+void tst_PYXAddressEdit::pasting()
 {
     PYXIPv4Edit edit;
+    const auto paste = [&](const char *text) {
+        QGuiApplication::clipboard()->setText(text);
+        QTest::keySequence(&edit, QKeySequence::Paste);
+        return edit.text();
+    };
     edit.setText("1.2.3.4");
     edit.setCursorPosition(3);
-    QGuiApplication::clipboard()->setText(" http://10.0.0.5:80/x ");
-    QTest::keySequence(&edit, QKeySequence::Paste);
-    QCOMPARE(edit.text(), QString("10.0.0.5"));
+    QCOMPARE(paste(" http://10.0.0.5:80/x "), QString("10.0.0.5"));
     edit.undo();
-    QCOMPARE(edit.text(), QString("1.2.3.4"));
-    for (const char *useless : {"station", "::1"}) {
-        QGuiApplication::clipboard()->setText(useless);
-        QTest::keySequence(&edit, QKeySequence::Paste);
-        QCOMPARE(edit.text(), QString("1.2.3.4"));
-    }
-    // A part of an address goes where the cursor is.
-    edit.setText("1.2.3.");
-    QGuiApplication::clipboard()->setText("99");
-    QTest::keySequence(&edit, QKeySequence::Paste);
-    QCOMPARE(edit.text(), QString("1.2.3.99"));
-}
-
-void tst_PYXAddressEdit::pastingFromTheMenu()
-{
-    PYXIPv6Edit edit;
-    edit.setText("::1");
-    edit.show();
+    QCOMPARE(paste("station"), QString("1.2.3.4"));
+    QCOMPARE(paste("::1"), QString("1.2.3.4"));
+    edit.setText("1.2.3."); // a part of an address goes where the cursor is
+    QCOMPARE(paste("99"), QString("1.2.3.99"));
     for (const bool bUseful : {false, true}) {
-        QGuiApplication::clipboard()->setText(bUseful ? "[fd00::5]:80" : "10.0.0.5");
+        QGuiApplication::clipboard()->setText(bUseful ? "10.0.0.5/24" : "::1");
         QContextMenuEvent event(QContextMenuEvent::Keyboard, QPoint());
         QCoreApplication::sendEvent(&edit, &event);
         auto *const menu = edit.findChild<QMenu *>();
@@ -146,15 +131,11 @@ void tst_PYXAddressEdit::pastingFromTheMenu()
         menu->close();
         QTRY_VERIFY(edit.findChild<QMenu *>() == nullptr);
     }
-    QCOMPARE(edit.text(), QString("fd00::5"));
-}
-
-void tst_PYXAddressEdit::anyWayOfInsertingTakesOtherForms()
-{
-    PYXIPv6Edit edit;
-    edit.insert("[fe80::1%eth0]:8080"); // as a drop or an input method does
-    QCOMPARE(edit.text(), QString("fe80::1%eth0"));
-    QCOMPARE(edit.address().scopeId(), QString("eth0"));
+    QCOMPARE(edit.text(), QString("10.0.0.5"));
+    PYXIPv6Edit ipv6;
+    ipv6.insert("[fe80::1%eth0]:8080"); // as a drop or an input method does
+    QCOMPARE(ipv6.text(), QString("fe80::1%eth0"));
+    QCOMPARE(ipv6.address().scopeId(), QString("eth0"));
 }
 
 void tst_PYXAddressEdit::settingAnAddress()
@@ -196,37 +177,28 @@ void tst_PYXAddressEdit::switchingTheProtocol()
     QCOMPARE(changes, 4);
 }
 
-void tst_PYXAddressEdit::validityIsSaid()
-{
-    PYXIPv4Edit edit;
-    const QString usual = accessibleText(edit, QAccessible::Description);
-    QVERIFY(usual.contains("IPv4") && !hasSign(edit));
-    edit.setText("10.0.");
-    QVERIFY(hasSign(edit));
-    QVERIFY(accessibleText(edit, QAccessible::Description).startsWith("Not a complete address"));
-    edit.setText("10.0.0.1");
-    QVERIFY(!hasSign(edit));
-    QCOMPARE(accessibleText(edit, QAccessible::Description), usual);
-    edit.setAccessibleDescription("mine");
-    edit.setText("10.0.");
-    QCOMPARE(accessibleText(edit, QAccessible::Description), QString("mine"));
-}
-
-void tst_PYXAddressEdit::names()
+void tst_PYXAddressEdit::whatAScreenReaderSays()
 {
     QWidget form;
     QFormLayout layout(&form);
     auto *const labelled = new PYXIPv4Edit;
     auto *const alone = new PYXIPv4Edit;
-    auto *const named = new PYXIPv4Edit;
     layout.addRow("&Station", labelled);
     layout.addRow(alone);
-    layout.addRow(named);
-    named->setAccessibleName("Gateway");
     form.show();
     QCOMPARE(accessibleText(*labelled, QAccessible::Name), QString("Station"));
     QCOMPARE(accessibleText(*alone, QAccessible::Name), QString("IP address"));
-    QCOMPARE(accessibleText(*named, QAccessible::Name), QString("Gateway"));
+    const QString usual = accessibleText(*alone, QAccessible::Description);
+    QVERIFY(usual.contains("IPv4") && !hasSign(*alone));
+    alone->setText("10.0.");
+    QVERIFY(hasSign(*alone));
+    QVERIFY(accessibleText(*alone, QAccessible::Description).startsWith("Not a complete address"));
+    alone->setText("10.0.0.1");
+    QVERIFY(!hasSign(*alone));
+    QCOMPARE(accessibleText(*alone, QAccessible::Description), usual);
+    alone->setAccessibleDescription("mine");
+    alone->setText("10.0.");
+    QCOMPARE(accessibleText(*alone, QAccessible::Description), QString("mine"));
 }
 
 QTEST_MAIN(tst_PYXAddressEdit)
