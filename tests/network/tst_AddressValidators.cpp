@@ -1,0 +1,111 @@
+// SPDX-FileCopyrightText: 2026 The PYXRuntime developers
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "PYXIPv4Validator.h"
+#include "PYXIPv6Validator.h"
+
+#include <QtNetwork/QHostAddress>
+#include <QtTest/QtTest>
+
+using namespace PYXRuntime;
+
+class tst_AddressValidators : public QObject
+{
+    Q_OBJECT
+private slots:
+    void texts_data();
+    void texts();
+    void everyCanonicalFormIsReached();
+};
+
+void tst_AddressValidators::texts_data()
+{
+    QTest::addColumn<bool>("isIPv6");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<int>("state");
+    QTest::addColumn<QString>("fixed");
+    using Texts = std::initializer_list<std::pair<const char *, const char *>>;
+    const auto rows = [](bool bIPv6, QValidator::State state, const Texts &texts) {
+        for (const auto &[text, fixed] : texts)
+            QTest::addRow("\"%s\"", text) << bIPv6 << text << int(state) << QString::fromUtf8(fixed);
+    };
+    const auto invalid = [&](bool bIPv6, std::initializer_list<const char *> texts) {
+        for (const char *text : texts)
+            rows(bIPv6, QValidator::Invalid, {{text, text}});
+    };
+    rows(false, QValidator::Intermediate,
+         {{"", "0.0.0.0"},
+          {".", "0.0.0.0"},
+          {"10", "10.0.0.0"},
+          {"10.", "10.0.0.0"},
+          {"10.1", "10.1.0.0"},
+          {"10.1.2.", "10.1.2.0"},
+          {"10.0..1", "10.0.0.1"},
+          {".1.2.3", "0.1.2.3"},
+          {"192.168.1.300", "192.168.1.255"},
+          {"1.2.3.99999999999999999999", "1.2.3.255"}});
+    rows(false, QValidator::Acceptable,
+         {{"0.0.0.0", "0.0.0.0"}, {"255.255.255.255", "255.255.255.255"}, {"010.001.2.3", "10.1.2.3"}});
+    invalid(false, {"1.2.3.4.5", "1.2.3.4\n", " 1.2.3.4", "1.2.3.a", "-1.2.3.4", "1.2.3.\u0664"});
+    rows(true, QValidator::Acceptable,
+         {{"::", "::"},
+          {"FD00::0001", "fd00::1"},
+          {"1:2:3:4:5:6:7:8", "1:2:3:4:5:6:7:8"},
+          {"1:2:3:4:5:6:7::", "1:2:3:4:5:6:7:0"},
+          {"::ffff:10.0.0.1", "::ffff:10.0.0.1"},
+          {"1:2:3:4:5:6:010.0.0.1", "1:2:3:4:5:6:a00:1"},
+          {"fe80::1%eth0", "fe80::1%eth0"}});
+    rows(true, QValidator::Intermediate,
+         {{"", "::"},
+          {":", "::"},
+          {"1", "1::"},
+          {"2001:db8", "2001:db8::"},
+          {"2001:db8:", "2001:db8::"},
+          {":1", "::1"},
+          {":1:2:3:4:5:6:7", "0:1:2:3:4:5:6:7"},
+          {"1::2:", "1::2:0"},
+          {":1::2", "0:1::2"},
+          {"12345::", "ffff::"},
+          {"00001::", "1::"},
+          {"::ffff:10.0", "::ffff:10.0.0.0"},
+          {"::ffff:10.0.0.256", "::ffff:10.0.0.255"},
+          {"1:10.0.0.1", "1::a00:1"},
+          {"fe80::1%", "fe80::1"},
+          {"fe80%eth0", "fe80::%eth0"}});
+    invalid(true,
+            {":::", "1::2::3", "1:2:3:4:5:6:7:8:", "1:2:3:4:5:6:7::8", "1:2:3:4:5:6:7:8:9", "10.0.0.1",
+             "::10.0.0.0.1", "::1.2:3", "::a.2", "::g", " ::1", "::1 ", "[::1]", "::1/64", "%e%", "::1\n"});
+}
+
+void tst_AddressValidators::texts()
+{
+    QFETCH(bool, isIPv6);
+    QFETCH(QString, text);
+    const PYXIPv4Validator ipv4(nullptr);
+    const PYXIPv6Validator ipv6(nullptr);
+    const QValidator &validator = isIPv6 ? static_cast<const QValidator &>(ipv6) : ipv4;
+    int position = 0;
+    QTEST(int(validator.validate(text, position)), "state");
+    validator.fixup(text);
+    QTEST(text, "fixed");
+}
+
+/** Addresses with zeros in all places, written in full. */
+void tst_AddressValidators::everyCanonicalFormIsReached()
+{
+    const PYXIPv6Validator validator;
+    int position = 0;
+    for (uint zeros = 0; zeros < 256; ++zeros) {
+        QStringList groups;
+        for (uint group = 0; group < 8; ++group)
+            groups += (zeros >> group & 1) != 0 ? "0000" : QString::number(0xa0b0 + group, 16);
+        QString text = groups.join(':');
+        const QString canonical = QHostAddress(text).toString();
+        QCOMPARE(validator.validate(text, position), QValidator::Acceptable);
+        validator.fixup(text);
+        QCOMPARE(text, canonical);
+        QCOMPARE(validator.validate(text, position), QValidator::Acceptable);
+    }
+}
+
+QTEST_APPLESS_MAIN(tst_AddressValidators)
+#include "tst_AddressValidators.moc"
