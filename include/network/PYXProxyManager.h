@@ -62,7 +62,7 @@ private:
 
     void _applyProxyConfiguration(const ProxyConfiguration &configuration);
     void _applyProxyConfigurationFromSettings();
-    void _makeSureFactoryIsInstalled();
+    void _handToFactory(const ProxyConfiguration &configuration);
 
     ProxyConfiguration m_currentConfiguration;
     QPointer<PYXNetworkProxyFactory> m_factory;

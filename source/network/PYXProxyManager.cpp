@@ -115,7 +115,8 @@ QString PYXProxyManager::settingsKey()
 
 void PYXProxyManager::applyProxyConfiguration(const ProxyConfiguration &configuration)
 {
-    getInstance()->_applyProxyConfiguration(configuration);
+    // A copy: it may be the current one, or a listener's that goes.
+    getInstance()->_applyProxyConfiguration(ProxyConfiguration(configuration));
 }
 
 const ProxyConfiguration &PYXProxyManager::currentProxyConfigurationWithoutPassword()
@@ -151,12 +152,10 @@ void PYXProxyManager::_sl_proxyFactory_destroyed(QObject *)
 
 void PYXProxyManager::_applyProxyConfiguration(const ProxyConfiguration &configuration)
 {
-    const ProxyConfiguration full = configuration; // it may be the current one, or a listener's that goes
-    describe(full);
-    m_currentConfiguration = full;
+    describe(configuration);
+    m_currentConfiguration = configuration;
     m_currentConfiguration.clearProxyPassword();
-    _makeSureFactoryIsInstalled();
-    m_factory->setCurrentProxyConfiguration(full);
+    _handToFactory(configuration);
     // Nor may a listener that applies another one change what the next listener gets.
     const ProxyConfiguration announced = m_currentConfiguration;
     Q_EMIT si_proxyConfigurationChanged(announced);
@@ -168,11 +167,14 @@ void PYXProxyManager::_applyProxyConfigurationFromSettings()
     _applyProxyConfiguration(ProxyConfiguration::restoredFrom(&settings, settingsKey(), nullptr));
 }
 
-void PYXProxyManager::_makeSureFactoryIsInstalled()
+void PYXProxyManager::_handToFactory(const ProxyConfiguration &configuration)
 {
-    if (!m_factory.isNull())
+    if (!m_factory.isNull()) {
+        m_factory->setCurrentProxyConfiguration(configuration);
         return;
+    }
     m_factory = new PYXNetworkProxyFactory;
+    m_factory->setCurrentProxyConfiguration(configuration); // before anybody can ask it
     // Queued: Qt deletes a factory within the very call that sets another one, and holds a lock there.
     connect(m_factory, &QObject::destroyed, this, &PYXProxyManager::_sl_proxyFactory_destroyed,
             Qt::QueuedConnection);

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "NullEncryptionProvider.h"
 #include "PYXEncryptionManager.h"
-#include "PYXRuntime.h"
 #include "RecordingTracer.h"
 #include "SimpleEncryptionProvider.h"
 
@@ -56,7 +55,6 @@ private slots:
     void registeredProvidersHideBuiltinOnes();
     void outlivesItsBuiltinProviders();
     void tracesWhoIsLeft();
-    void comesAndGoesWithTheLibrary();
 
 private:
     PYXEncryptionManager *m_manager = nullptr;
@@ -224,15 +222,6 @@ void tst_PYXEncryptionManager::tracesWhoIsLeft()
     QCOMPARE(traces[1].section('|', 0, 1), "Debug|  encryption Provider Id: Left %1");
     QVERIFY(!PYXEncryptionManager::hasInstance());
     QCOMPARE(PYXEncryptionManager::staticEncryptionProviderId(), "Simple");
-}
-
-void tst_PYXEncryptionManager::comesAndGoesWithTheLibrary()
-{
-    PYXEncryptionManager::destroyInstance();
-    initialize_PYXRuntime(ekInitialize_NoFonts);
-    QVERIFY(PYXEncryptionManager::hasInstance());
-    uninitialize_PYXRuntime();
-    QVERIFY(!PYXEncryptionManager::hasInstance());
 }
 
 QTEST_GUILESS_MAIN(tst_PYXEncryptionManager)
