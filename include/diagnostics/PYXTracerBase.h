@@ -28,7 +28,7 @@ public:
     };
     enum eForm { ekForm_Text, ekForm_List, ekForm_TwoTexts };
 
-    struct struTrace
+    struct PYXRUNTIME_EXPORT struTrace
     {
         eLevel level = ekLevel_Debug;
         eForm form = ekForm_Text;
