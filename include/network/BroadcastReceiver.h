@@ -64,6 +64,7 @@ private:
 
     void _dropSocket();
     void _handOnWaiting(bool bAnnounced);
+    void _rest();
     bool _readDatagram(qint64 size, QByteArray &datagram, QHostAddress &sender);
     bool _handOn(const QByteArray &datagram, const QHostAddress &sender);
 
@@ -71,6 +72,7 @@ private:
     quint16 m_port = 0;
     QList<struParser> m_parsers;
     quint64 m_run = 0;
+    bool m_bResting = false;
     QList<QUdpSocket *> m_socketsInUse;
     quint64 m_receivedCount = 0;
     quint64 m_failedCount = 0;

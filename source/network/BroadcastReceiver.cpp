@@ -3,7 +3,7 @@
 #include "BroadcastReceiver.h"
 
 #include <QtCore/QElapsedTimer>
-#include <QtCore/QMetaObject>
+#include <QtCore/QTimer>
 #include <QtNetwork/QNetworkProxy>
 #include <QtNetwork/QUdpSocket>
 
@@ -107,7 +107,9 @@ void BroadcastReceiver::_sl_updSocket_readyRead()
 /** @param bAnnounced whether the socket has said that there is something. */
 void BroadcastReceiver::_handOnWaiting(bool bAnnounced)
 {
-    if (m_socket == nullptr || m_socketsInUse.contains(m_socket))
+    // The socket announces nothing more until it has been read: then a flood is no events for a while, of
+    // which Windows would deliver every one before any timer's.
+    if (m_socket == nullptr || m_bResting || m_socketsInUse.contains(m_socket))
         return;
     const QPointer<BroadcastReceiver> self(this);
     QUdpSocket *const socket = m_socket;
@@ -126,8 +128,7 @@ void BroadcastReceiver::_handOnWaiting(bool bAnnounced)
         if (size < 0 || !_readDatagram(size, datagram, sender) || !_handOn(datagram, sender))
             break;
         if (count % DatagramsPerLook == 0 && turn.elapsed() >= TurnMs) {
-            QMetaObject::invokeMethod(
-                this, [this] { _handOnWaiting(false); }, Qt::QueuedConnection);
+            _rest();
             break;
         }
     }
@@ -135,6 +136,16 @@ void BroadcastReceiver::_handOnWaiting(bool bAnnounced)
         m_socketsInUse.removeOne(socket);
     if (!self || m_socket != socket)
         socket->deleteLater();
+}
+
+/** Lets the thread's other events have their turn. */
+void BroadcastReceiver::_rest()
+{
+    m_bResting = true;
+    QTimer::singleShot(0, this, [this] {
+        m_bResting = false;
+        _handOnWaiting(true);
+    });
 }
 
 bool BroadcastReceiver::_readDatagram(qint64 size, QByteArray &datagram, QHostAddress &sender)

@@ -172,12 +172,12 @@ void tst_MainWindow::goesOnAsItWasClosed()
 void tst_MainWindow::keepsTheNewestRecordings()
 {
     const SettingsHome home;
+    const auto path = [&home](int number) { return home.path(QString("%1 & more.wav").arg(number)); };
     for (int i = 0; i < 2 * RecentRecordings::MaximumCount; ++i)
-        RecentRecordings::add(QString("/tmp/%1 & more.wav").arg(i));
-    RecentRecordings::add("/tmp/12 & more.wav");
+        RecentRecordings::add(path(i));
+    RecentRecordings::add(path(12));
     QCOMPARE(RecentRecordings::paths().size(), RecentRecordings::MaximumCount);
-    QCOMPARE(RecentRecordings::paths().mid(0, 3),
-             QList<QString>({"/tmp/12 & more.wav", "/tmp/15 & more.wav", "/tmp/14 & more.wav"}));
+    QCOMPARE(RecentRecordings::paths().mid(0, 3), QList<QString>({path(12), path(15), path(14)}));
     RecentRecordings menu;
     QCOMPARE(menu.actions().constFirst()->text(), "&1  12 && more.wav");
     QVERIFY(!menu.actions().constFirst()->isEnabled()); // the file is gone
