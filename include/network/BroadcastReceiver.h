@@ -73,6 +73,7 @@ private:
     QList<struParser> m_parsers;
     quint64 m_run = 0;
     bool m_bResting = false;
+    bool m_bAnnouncedAtRest = false;
     QList<QUdpSocket *> m_socketsInUse;
     quint64 m_receivedCount = 0;
     quint64 m_failedCount = 0;

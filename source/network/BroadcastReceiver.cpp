@@ -61,6 +61,7 @@ void BroadcastReceiver::start(quint16 port, const QList<IBroadcastParser *> &par
     m_receivedCount = 0;
     m_failedCount = 0;
     m_receivedBytes = 0;
+    m_bAnnouncedAtRest = false;
     m_socket = new QUdpSocket(this);
     m_socket->setProxy(QNetworkProxy::NoProxy);
     if (m_socket->bind(QHostAddress(QHostAddress::AnyIPv4), port,
@@ -109,6 +110,7 @@ void BroadcastReceiver::_handOnWaiting(bool bAnnounced)
 {
     // The socket announces nothing more until it has been read: then a flood is no events for a while, of
     // which Windows would deliver every one before any timer's.
+    m_bAnnouncedAtRest = m_bResting && (m_bAnnouncedAtRest || bAnnounced);
     if (m_socket == nullptr || m_bResting || m_socketsInUse.contains(m_socket))
         return;
     const QPointer<BroadcastReceiver> self(this);
@@ -144,7 +146,7 @@ void BroadcastReceiver::_rest()
     m_bResting = true;
     QTimer::singleShot(0, this, [this] {
         m_bResting = false;
-        _handOnWaiting(true);
+        _handOnWaiting(m_bAnnouncedAtRest);
     });
 }
 
