@@ -16,10 +16,15 @@ namespace {
 constexpr int KeysPerSave = 25;
 constexpr int KeysOfGeneration = 100;
 
+/**
+ * On Windows, looking at the file while another process replaces it is an access error as well, though nothing
+ * is lost; the status keeps it. Another object on the file tells whether there is anything left to save.
+ */
 bool isSaved(PYXSettings &settings)
 {
     settings.sync();
-    return settings.status() == QSettings::NoError;
+    return settings.status() == QSettings::NoError ||
+           PYXSettings(settings.fileName(), settings.format()).status() == QSettings::NoError;
 }
 
 bool writeMany(PYXSettings &settings, const QString &prefix, int count)
