@@ -9,6 +9,9 @@
 namespace PYXRuntime {
 namespace {
 
+// Any sender of datagrams can have an answer kept; one that is dropped is made again, and is the same.
+constexpr int MostAnswers = 65536;
+
 bool isIPv4(const QHostAddress &address)
 {
     return address.protocol() == QAbstractSocket::IPv4Protocol;
@@ -67,8 +70,11 @@ void AddressBook::_keep(Answers &answers, const QHostAddress &address, const Ans
                         quint64 generation)
 {
     const std::lock_guard<DataMutex> locker(m_mutex);
-    if (m_current.generation == generation)
-        answers.insert(address, answer);
+    if (m_current.generation != generation)
+        return;
+    if (answers.size() >= MostAnswers)
+        answers.clear();
+    answers.insert(address, answer);
 }
 
 bool AddressBook::isOwnAddress(const QHostAddress &address)

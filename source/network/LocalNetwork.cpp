@@ -53,8 +53,8 @@ struLocalNetwork readLocalNetwork()
 {
     struLocalNetwork network;
     network.interfaces = QNetworkInterface::allInterfaces();
-    for (const QNetworkInterface &interface : qAsConst(network.interfaces)) {
-        const QList<QNetworkAddressEntry> entries = interface.addressEntries();
+    for (const QNetworkInterface &device : qAsConst(network.interfaces)) {
+        const QList<QNetworkAddressEntry> entries = device.addressEntries();
         for (const QNetworkAddressEntry &entry : entries)
             network.addresses += {entry.ip(), entry.prefixLength(), entry.broadcast()};
     }

@@ -167,8 +167,10 @@ QString PYXAddressEdit::_format() const
 void PYXAddressEdit::_showValidity()
 {
     const bool bWrong = !text().isEmpty() && !hasAcceptableInput();
-    const QString description = bWrong ? tr("Not a complete address. %1").arg(_format()) : _format();
+    const QString complaint = tr("Not a complete address");
+    const QString description = bWrong ? complaint + QLatin1String(". ") + _format() : _format();
     m_sign->setVisible(bWrong);
+    m_sign->setText(complaint);
     m_sign->setToolTip(description);
     // An application's own description stays.
     if (accessibleDescription() == m_description && description != m_description)
@@ -198,8 +200,11 @@ void PYXAddressEdit::changeEvent(QEvent *event)
     QLineEdit::changeEvent(event);
     if (event->type() == QEvent::StyleChange)
         m_sign->setIcon(style()->standardIcon(QStyle::SP_MessageBoxWarning));
-    else if (event->type() == QEvent::LanguageChange)
+    if (event->type() == QEvent::LanguageChange) {
         _showValidity();
+        if (!m_ownName.isEmpty())
+            _nameItself();
+    }
 }
 
 } // namespace PYXRuntime

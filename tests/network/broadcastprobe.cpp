@@ -55,13 +55,9 @@ private:
 QString residentKilobytes()
 {
     QFile status("/proc/self/status");
-    if (!status.open(QIODevice::ReadOnly))
-        return "0";
-    for (QByteArray line = status.readLine(); !line.isEmpty(); line = status.readLine()) {
-        if (line.startsWith("VmRSS:"))
-            return line.simplified().split(' ').at(1);
-    }
-    return "0";
+    const bool bOpen = status.open(QIODevice::ReadOnly);
+    const QByteArray text = bOpen ? status.readAll() : QByteArray();
+    return text.mid(text.indexOf("VmRSS:") + 6).simplified().split(' ').value(0);
 }
 
 void flood(const QStringList &words)

@@ -9,8 +9,6 @@
 
 #include <QtTest/QtTest>
 
-#include <functional>
-
 using namespace PYXRuntime;
 
 namespace {
@@ -66,7 +64,6 @@ private slots:
     void savingLeavesNothingOfTheOldElements();
     void foreignValuesOfAnElement_data();
     void foreignValuesOfAnElement();
-    void claimedSizeIsNotTrusted_data();
     void claimedSizeIsNotTrusted();
     void files();
     void questionsToAList();
@@ -96,23 +93,13 @@ void tst_PYXNetworkEntryList::parsingAnEntry()
 
 void tst_PYXNetworkEntryList::comparingEntries()
 {
-    const std::function<void(PYXNetworkEntry &)> changes[] = {
-        [](PYXNetworkEntry &entry) { entry.setName("South"); },
-        [](PYXNetworkEntry &entry) { entry.setUuid(QUuid()); },
-        [](PYXNetworkEntry &entry) { entry.setGeoPosition(48, -11.5, 520); },
-        [](PYXNetworkEntry &entry) { entry.setGeoPosition(48.123456789, -11, 520); },
-        [](PYXNetworkEntry &entry) { entry.setGeoPosition(48.123456789, -11.5, 521); },
-        [](PYXNetworkEntry &entry) { entry.setDirection(false, 90, 15); },
-        [](PYXNetworkEntry &entry) { entry.setDirection(true, 91, 15); },
-        [](PYXNetworkEntry &entry) { entry.setDirection(true, 90, 16); },
-        [](PYXNetworkEntry &entry) { entry.clear(); },
-    };
-    for (const auto &change : changes) {
-        PYXNetworkEntry entry = fullEntry();
-        QVERIFY(entry == fullEntry());
-        change(entry);
-        QVERIFY(entry != fullEntry());
-    }
+    PYXNetworkEntry entries[] = {fullEntry(), fullEntry(), fullEntry(), fullEntry(), PYXNetworkEntry()};
+    entries[0].setName("South");
+    entries[1].setUuid(QUuid());
+    entries[2].setGeoPosition(48.123456789, -11.5, 521);
+    entries[3].setDirection(true, 90, 16);
+    for (const PYXNetworkEntry &entry : entries)
+        QVERIFY(entry == PYXNetworkEntry(entry) && entry != fullEntry());
     QVERIFY(fullEntry().matches(Address, 0) && fullEntry().matches({Address, 8080, QUuid()}));
     QVERIFY(!fullEntry().matches(Address, 8081) && !fullEntry().matches(QHostAddress("10.0.0.6"), 0));
     QVERIFY(!PYXNetworkEntry(Address, 0, Id).matches(fullEntry())); // only the other's 0 stands for any
@@ -242,29 +229,30 @@ void tst_PYXNetworkEntryList::foreignValuesOfAnElement()
     QTEST(list.first(), "expected");
 }
 
-void tst_PYXNetworkEntryList::claimedSizeIsNotTrusted_data()
-{
-    QTest::addColumn<int>("claimed");
-    QTest::addColumn<QStringList>("elements");
-    QTest::addColumn<int>("size");
-    QTest::newRow("more than there are") << 2'000'000'000 << QStringList{"1", "3"} << 3;
-    QTest::newRow("fewer") << 1 << QStringList{"1", "2"} << 1;
-    QTest::newRow("negative") << -5 << QStringList{"1"} << 0;
-    QTest::newRow("absurd element") << 2'000'000'000 << QStringList{"1", "2000000000"} << 1001;
-    QTest::newRow("no numbers") << 5 << QStringList{"01", "one", "0", "-1"} << 0;
-}
-
 void tst_PYXNetworkEntryList::claimedSizeIsNotTrusted()
 {
-    QFETCH(int, claimed);
-    QFETCH(QStringList, elements);
-    PYXSettings settings(PYXSettings::eUserApplicationSettings);
-    settings.setValue("Group/size", claimed);
-    for (const QString &element : elements)
-        settings.setValue("Group/" + element + "/ItemName", element);
-    PYXNetworkEntryList list;
-    list.restore(settings);
-    QTEST(int(list.size()), "size");
+    const struct
+    {
+        int claimed;
+        QStringList elements;
+        int size;
+    } arrays[] = {
+        {2'000'000'000, {"1", "3"}, 3}, // no further than what is there
+        {1, {"1", "2"}, 1},
+        {-5, {"1"}, 0},
+        {2'000'000'000, {"1", "2000000000"}, 1001}, // not all the way to an absurd element
+        {5, {"01", "one", "0", "-1"}, 0},
+    };
+    for (const auto &array : arrays) {
+        PYXSettings settings(PYXSettings::eUserApplicationSettings);
+        settings.clear();
+        settings.setValue("Group/size", array.claimed);
+        for (const QString &element : array.elements)
+            settings.setValue("Group/" + element + "/ItemName", element);
+        PYXNetworkEntryList list;
+        list.restore(settings);
+        QCOMPARE(list.size(), array.size);
+    }
 }
 
 void tst_PYXNetworkEntryList::files()

@@ -8,6 +8,7 @@ Exit status 77: this machine or user cannot make namespaces.
 """
 import os
 import shutil
+import signal
 import subprocess
 import sys
 
@@ -153,6 +154,7 @@ def main():
         print(f"SKIPPED: no network namespaces here: {error.stderr.strip()}")
         subprocess.run(["ip", "netns", "delete", HOST_A], check=False, capture_output=True)
         return 77
+    signal.signal(signal.SIGTERM, lambda *_: sys.exit(1))  # so that the namespaces go
     try:
         only_loopback_sends_nothing()
         join("cable", "10.77.0")
