@@ -41,7 +41,7 @@ public:
     /** The port it listens on; 0 when it is stopped. */
     quint16 port() const { return m_port; }
 
-    /** Since the last start; stop() leaves them. A failed read counts as failed. */
+    /** Since the last start; stop() leaves them. What waits but cannot be read counts as failed. */
     quint64 receivedCount() const { return m_receivedCount; }
     quint64 failedCount() const { return m_failedCount; }
     quint64 receivedBytes() const { return m_receivedBytes; }
@@ -63,9 +63,8 @@ private:
     };
 
     void _dropSocket();
-    void _handOnWaiting(bool bAnnounced);
     void _rest();
-    bool _readDatagram(qint64 size, QByteArray &datagram, QHostAddress &sender);
+    bool _readDatagram(QByteArray &datagram, QHostAddress &sender);
     bool _handOn(const QByteArray &datagram, const QHostAddress &sender);
 
     QUdpSocket *m_socket = nullptr;
@@ -73,7 +72,6 @@ private:
     QList<struParser> m_parsers;
     quint64 m_run = 0;
     bool m_bResting = false;
-    bool m_bAnnouncedAtRest = false;
     QList<QUdpSocket *> m_socketsInUse;
     quint64 m_receivedCount = 0;
     quint64 m_failedCount = 0;

@@ -10,7 +10,6 @@
 namespace PYXRuntime {
 namespace {
 
-constexpr int UsualDatagramSize = 500;
 constexpr int LargestDatagramSize = 65536;
 // What one turn may take before the thread's other events get theirs, looked at after so many datagrams.
 constexpr qint64 TurnMs = 50;
@@ -61,7 +60,6 @@ void BroadcastReceiver::start(quint16 port, const QList<IBroadcastParser *> &par
     m_receivedCount = 0;
     m_failedCount = 0;
     m_receivedBytes = 0;
-    m_bAnnouncedAtRest = false;
     m_socket = new QUdpSocket(this);
     m_socket->setProxy(QNetworkProxy::NoProxy);
     if (m_socket->bind(QHostAddress(QHostAddress::AnyIPv4), port,
@@ -102,15 +100,8 @@ void BroadcastReceiver::_dropSocket()
 
 void BroadcastReceiver::_sl_updSocket_readyRead()
 {
-    _handOnWaiting(true);
-}
-
-/** @param bAnnounced whether the socket has said that there is something. */
-void BroadcastReceiver::_handOnWaiting(bool bAnnounced)
-{
     // The socket announces nothing more until it has been read: then a flood is no events for a while, of
     // which Windows would deliver every one before any timer's.
-    m_bAnnouncedAtRest = m_bResting && (m_bAnnouncedAtRest || bAnnounced);
     if (m_socket == nullptr || m_bResting || m_socketsInUse.contains(m_socket))
         return;
     const QPointer<BroadcastReceiver> self(this);
@@ -119,16 +110,8 @@ void BroadcastReceiver::_handOnWaiting(bool bAnnounced)
     QElapsedTimer turn;
     turn.start();
     QByteArray datagram;
-    datagram.reserve(UsualDatagramSize);
     QHostAddress sender;
-    for (int count = 1;; ++count) {
-        qint64 size = m_socket->pendingDatagramSize();
-        // What was announced is gone where the system has found it damaged. The socket would stay silent for
-        // ever, if it were not read all the same.
-        if (size < 0 && bAnnounced && count == 1)
-            size = LargestDatagramSize;
-        if (size < 0 || !_readDatagram(size, datagram, sender) || !_handOn(datagram, sender))
-            break;
+    for (int count = 1; _readDatagram(datagram, sender) && _handOn(datagram, sender); ++count) {
         if (count % DatagramsPerLook == 0 && turn.elapsed() >= TurnMs) {
             _rest();
             break;
@@ -146,16 +129,21 @@ void BroadcastReceiver::_rest()
     m_bResting = true;
     QTimer::singleShot(0, this, [this] {
         m_bResting = false;
-        _handOnWaiting(m_bAnnouncedAtRest);
+        _sl_updSocket_readyRead();
     });
 }
 
-bool BroadcastReceiver::_readDatagram(qint64 size, QByteArray &datagram, QHostAddress &sender)
+/** @return false where there is none, or none that can be read. */
+bool BroadcastReceiver::_readDatagram(QByteArray &datagram, QHostAddress &sender)
 {
-    datagram.resize(static_cast<int>(size));
+    const qint64 size = m_socket->pendingDatagramSize();
+    // Also read when nothing waits any more: a datagram that the system finds damaged is announced and then
+    // gone, and a QUdpSocket that is not read after it has announced something announces nothing ever again.
+    datagram.resize(size < 0 ? LargestDatagramSize : static_cast<int>(size));
     const qint64 read = m_socket->readDatagram(datagram.data(), datagram.size(), &sender);
     if (read < 0) {
-        ++m_failedCount;
+        if (size >= 0)
+            ++m_failedCount;
         return false;
     }
     datagram.truncate(static_cast<int>(read));
