@@ -68,4 +68,7 @@ bool mayBecomeReplaceable(const QString &file);
  */
 void registerXmlFileType(const QString &suffix);
 
+/** Gives memory that was freed, but is still kept by the heap, back to the system. May take some 10 ms. */
+void returnFreedMemory();
+
 } // namespace PYXRuntime::Platform

@@ -6,6 +6,9 @@
 #include <ctime>
 #include <fcntl.h>
 #include <unistd.h>
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 
 namespace PYXRuntime::Platform {
 namespace {
@@ -137,5 +140,13 @@ bool mayBecomeReplaceable(const QString &)
 }
 
 void registerXmlFileType(const QString &) {}
+
+void returnFreedMemory()
+{
+#ifdef __GLIBC__
+    // Its heap gives back by itself only what lies at its end.
+    malloc_trim(0);
+#endif
+}
 
 } // namespace PYXRuntime::Platform

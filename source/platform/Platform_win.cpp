@@ -5,6 +5,7 @@
 #include <QtCore/QSettings>
 
 #include <cstdio>
+#include <malloc.h>
 #include <windows.h>
 // After windows.h, whose types it needs.
 #include <mmsystem.h>
@@ -147,6 +148,11 @@ void registerXmlFileType(const QString &suffix)
     classes.setValue(QStringLiteral("Content Type"), QStringLiteral("text/xml"));
     classes.setValue(QStringLiteral("PerceivedType"), QStringLiteral("text"));
     classes.endGroup();
+}
+
+void returnFreedMemory()
+{
+    _heapmin();
 }
 
 } // namespace PYXRuntime::Platform

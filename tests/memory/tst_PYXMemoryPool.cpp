@@ -1,0 +1,389 @@
+// SPDX-FileCopyrightText: 2026 The PYXRuntime developers
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "ChildProcess.h"
+#include "MemoryPoolBooks.h"
+#include "PYXMemoryPool.h"
+#include "WatchedAllocator.h"
+
+#include <QtTest/QtTest>
+
+#include <array>
+#include <future>
+#include <limits>
+#include <random>
+#include <thread>
+
+using namespace PYXRuntime;
+
+namespace {
+
+using BlockPointer = QSharedPointer<PYXMemoryBlock>;
+using Blocks = QVector<BlockPointer>;
+using Sizes = QVector<quint64>;
+
+#ifdef __SANITIZE_THREAD__
+constexpr int OperationsPerThread = 6'250;
+#else
+constexpr int OperationsPerThread = 62'500;
+#endif
+constexpr std::size_t ThreadCount = 16;
+
+Blocks acquireAll(PYXMemoryPool &pool, const Sizes &sizes)
+{
+    Blocks blocks;
+    for (const quint64 size : sizes)
+        blocks += pool.acquire(size, 0);
+    return blocks;
+}
+
+/** Places where threads leave blocks for each other, so that many are released by another thread. */
+class Exchange
+{
+public:
+    void swap(std::size_t place, BlockPointer &block)
+    {
+        const std::lock_guard<std::mutex> guard(m_mutex);
+        m_places[place % m_places.size()].swap(block);
+    }
+
+private:
+    std::mutex m_mutex;
+    std::array<BlockPointer, ThreadCount / 2> m_places;
+};
+
+/** Acquires, marks, passes on. @return how many blocks it got; 0 if one of them was in two hands. */
+quint64 work(PYXMemoryPool &pool, Exchange &exchange, unsigned seed)
+{
+    std::minstd_rand random(seed);
+    quint64 got = 0;
+    for (int i = 0; i < OperationsPerThread; ++i) {
+        BlockPointer block = pool.acquire(sizeof(unsigned) + random() % 4096, 1);
+        if (block == nullptr)
+            continue;
+        ++got;
+        auto *const mark = static_cast<volatile unsigned *>(block->data());
+        *mark = seed;
+        if (random() % 4 == 0)
+            exchange.swap(random(), block);
+        else if (*mark != seed)
+            return 0;
+    }
+    return got;
+}
+
+/** Areas whose addresses are known. */
+class FixedAllocator : public PYXStdMemoryAllocator
+{
+public:
+    void *allocateMemory(quint64 byteSize) override { return reinterpret_cast<void *>(0xabc0 + byteSize); }
+    void freeMemory(void *) override {}
+};
+
+int reportProbe()
+{
+    PYXMemoryPool(nullptr).acquire(1, 0); // comes back: nothing to report
+    auto pool = std::make_unique<PYXMemoryPool>(QSharedPointer<FixedAllocator>::create());
+    Blocks blocks = acquireAll(*pool, {8, 5});
+    pool->setMaximumPoolSize(1);
+    blocks.removeFirst(); // destroyed, but left behind in the books
+    pool.reset();
+    return 0;
+}
+
+} // namespace
+
+class tst_PYXMemoryPool : public QObject
+{
+    Q_OBJECT
+private Q_SLOTS:
+    void handsOutTheBestFit_data();
+    void handsOutTheBestFit();
+    void handsOutLastReturnedFirst();
+    void boundedPoolServesWhoWaits_data();
+    void boundedPoolServesWhoWaits();
+    void surplusStaysInTheBooks();
+    void boundingFreesSmallestFirst_data();
+    void boundingFreesSmallestFirst();
+    void purgesByAgeOfHandOut();
+    void purgesByTimer();
+    void preallocatesWithinTheBound();
+    void reportsWhatIsOut();
+    void booksComeOutEven_data();
+    void booksComeOutEven();
+    void poolMayGoWhileBlocksComeBack();
+
+private:
+    const QSharedPointer<WatchedAllocator> m_allocator = QSharedPointer<WatchedAllocator>::create();
+};
+
+void tst_PYXMemoryPool::handsOutTheBestFit_data()
+{
+    QTest::addColumn<Sizes>("freeSizes");
+    QTest::addColumn<quint64>("request");
+    QTest::addColumn<quint64>("result");
+    QTest::addColumn<bool>("isHit");
+    const Sizes both{150, 100};
+    QTest::newRow("smallest that fits") << both << quint64(80) << quint64(100) << true;
+    QTest::newRow("exact size") << both << quint64(150) << quint64(150) << true;
+    QTest::newRow("the larger one") << both << quint64(101) << quint64(150) << true;
+    QTest::newRow("twice the size is too much") << both << quint64(50) << quint64(50) << false;
+    QTest::newRow("less than twice the size") << both << quint64(51) << quint64(100) << true;
+    QTest::newRow("none is large enough") << both << quint64(151) << quint64(151) << false;
+    QTest::newRow("0 bytes") << Sizes{0, 1} << quint64(0) << quint64(0) << false;
+    const auto absurd = std::numeric_limits<quint64>::max();
+    QTest::newRow("more than there is") << Sizes{absurd - 1} << absurd << absurd << false;
+}
+
+void tst_PYXMemoryPool::handsOutTheBestFit()
+{
+    QFETCH(Sizes, freeSizes);
+    QFETCH(quint64, request);
+    PYXMemoryPool pool(m_allocator);
+    acquireAll(pool, freeSizes).clear();
+    const BlockPointer block = pool.acquire(request);
+    QTEST(block->byteSize(), "result");
+    QTEST(pool.statistics().hits == 1, "isHit");
+    QCOMPARE(pool.statistics().hits + pool.statistics().misses, quint64(freeSizes.size() + 1));
+}
+
+void tst_PYXMemoryPool::handsOutLastReturnedFirst()
+{
+    PYXMemoryPool pool(m_allocator);
+    Blocks blocks = acquireAll(pool, {100, 100, 100});
+    const QDateTime before = blocks[1]->allocatedAtUTC();
+    void *const data[] = {blocks[0]->data(), blocks[1]->data(), blocks[2]->data()};
+    QTRY_VERIFY(QDateTime::currentDateTimeUtc() > before);
+    for (const int i : {2, 0, 1})
+        blocks[i].clear();
+    for (const int i : {1, 0, 2}) {
+        blocks[i] = pool.acquire(90);
+        QCOMPARE(blocks[i]->data(), data[i]);
+        QVERIFY(blocks[i]->allocatedAtUTC() > before);
+    }
+}
+
+void tst_PYXMemoryPool::boundedPoolServesWhoWaits_data()
+{
+    QTest::addColumn<quint64>("request");
+    QTest::addColumn<unsigned long>("timeout");
+    QTest::addColumn<bool>("isServed");
+    QTest::newRow("fits") << quint64(90) << ULONG_MAX << true;
+    QTest::newRow("fits in time") << quint64(90) << 60'000UL << true;
+    QTest::newRow("does not fit") << quint64(101) << ULONG_MAX << false;
+    QTest::newRow("0 bytes") << quint64(0) << 60'000UL << false;
+}
+
+void tst_PYXMemoryPool::boundedPoolServesWhoWaits()
+{
+    QFETCH(quint64, request);
+    QFETCH(unsigned long, timeout);
+    PYXMemoryPool pool(m_allocator);
+    pool.setMaximumPoolSize(2);
+    Blocks blocks = acquireAll(pool, {100, 100});
+    QVERIFY(pool.acquire(100, 0) == nullptr && pool.acquire(100, 1) == nullptr);
+    auto waiter = std::async(std::launch::async, [&] { return pool.acquire(request, timeout); });
+    QTRY_COMPARE(pool.statistics().waits, quint64(2));
+    void *const data = blocks[0]->data();
+    blocks.removeFirst();
+    const BlockPointer served = waiter.get();
+    QTEST(served != nullptr && served->data() == data, "isServed");
+}
+
+void tst_PYXMemoryPool::surplusStaysInTheBooks()
+{
+    PYXMemoryPool pool(m_allocator);
+    Blocks blocks = acquireAll(pool, {10, 20, 30, 40});
+    pool.setMaximumPoolSize(3);
+    blocks.clear();
+    // The size never gets down to the bound, so none has become free; and so it stays full.
+    QCOMPARE(m_allocator->out(), 0U);
+    QCOMPARE(pool.statistics().acquiredBlocks, 4U);
+    QCOMPARE(pool.statistics().bytes, quint64(0));
+    QVERIFY(pool.acquire(10, 0) == nullptr);
+    pool.setMaximumPoolSize(5);
+    const BlockPointer block = pool.acquire(10, 0);
+    QCOMPARE(pool.statistics().acquiredBlocks, 5U);
+}
+
+void tst_PYXMemoryPool::boundingFreesSmallestFirst_data()
+{
+    QTest::addColumn<unsigned int>("previous");
+    QTest::addColumn<Sizes>("acquired");
+    QTest::addColumn<unsigned int>("bound");
+    QTest::addColumn<Sizes>("left"); // of free blocks of 10, 20, 30 and 40 bytes
+    const Sizes all{10, 20, 30, 40};
+    QTest::newRow("from none") << 0U << Sizes() << 2U << all;
+    QTest::newRow("to none") << 9U << Sizes() << 0U << all;
+    QTest::newRow("raised") << 9U << Sizes() << 10U << all;
+    QTest::newRow("the same") << 9U << Sizes{1} << 9U << all;
+    QTest::newRow("lowered") << 9U << Sizes() << 2U << Sizes{30, 40};
+    QTest::newRow("lowered, some handed out") << 9U << Sizes{1, 1} << 3U << Sizes{40};
+    QTest::newRow("below what is handed out") << 9U << Sizes{1, 1} << 1U << Sizes();
+    QTest::newRow("to the size it has: never met") << 9U << Sizes() << 4U << Sizes();
+    QTest::newRow("to more than it has: never met") << 9U << Sizes() << 6U << Sizes();
+}
+
+void tst_PYXMemoryPool::boundingFreesSmallestFirst()
+{
+    QFETCH(unsigned int, previous);
+    QFETCH(Sizes, acquired);
+    QFETCH(unsigned int, bound);
+    QFETCH(Sizes, left);
+    PYXMemoryPool pool(m_allocator);
+    pool.setMaximumPoolSize(previous);
+    acquireAll(pool, {40, 10, 30, 20}).clear();
+    const Blocks held = acquireAll(pool, acquired);
+    pool.setMaximumPoolSize(bound);
+    QCOMPARE(pool.maximumPoolSize(), bound);
+    QCOMPARE(pool.statistics().freeBlocks, unsigned(left.size()));
+    const Blocks kept = acquireAll(pool, left);
+    QCOMPARE(pool.statistics().hits, quint64(left.size()));
+}
+
+void tst_PYXMemoryPool::purgesByAgeOfHandOut()
+{
+    MemoryPoolBooks books;
+    PooledBlock *const block = books.addAcquired(std::make_unique<PooledBlock>(m_allocator, 10, nullptr));
+    const qint64 handedOut = block->allocatedAtUTC().toMSecsSinceEpoch();
+    QVERIFY(books.takeOlderThan(handedOut + 90'000, 30).empty());
+    books.putBack(block);
+    for (const qint64 ms : {30'000, 30'999})
+        QVERIFY(books.takeOlderThan(handedOut + ms, 30).empty());
+    QCOMPARE(books.takeOlderThan(handedOut + 31'000, 30).size(), 1U);
+    QCOMPARE(books.poolSize(), 0U);
+}
+
+void tst_PYXMemoryPool::purgesByTimer()
+{
+    PYXMemoryPool pool(m_allocator);
+    QVERIFY(pool.isAutoPurgeEnabled());
+    QCOMPARE(pool.property("autoPurgeInterval").toInt() + pool.property("autoPurgeAge").toInt(), 60'030);
+    const BlockPointer kept = pool.acquire(10);
+    pool.preallocate(10, 3);
+    pool.purgeNow();
+    pool.purgeNow(0);
+    QCOMPARE(pool.statistics().freeBlocks, 3U);
+    QVERIFY(pool.setProperty("autoPurgeEnabled", false));
+    QVERIFY(pool.findChild<QTimer *>() == nullptr);
+    pool.setAutoPurgeAge(-1);
+    pool.setAutoPurgeEnabled(true);
+    pool.setAutoPurgeEnabled(true);
+    QCOMPARE(pool.findChildren<QTimer *>().size(), 1);
+    pool.setAutoPurgeInterval(1);
+    for (int round = 0; round < 2; ++round) {
+        QTRY_COMPARE(pool.statistics().freeBlocks, 0U);
+        pool.preallocate(10, 1);
+    }
+    QCOMPARE(pool.statistics().acquiredBlocks, 1U);
+}
+
+void tst_PYXMemoryPool::preallocatesWithinTheBound()
+{
+    PYXMemoryPool pool(m_allocator);
+    QCOMPARE(pool.preallocate(std::numeric_limits<quint64>::max(), 2), 0U);
+    pool.setMaximumPoolSize(3);
+    QCOMPARE(pool.preallocate(100, 5), 3U);
+    acquireAll(pool, {100, 60}).clear();
+    pool.purgeNow(-1);
+    const auto statistics = pool.statistics();
+    QCOMPARE(statistics.hits, quint64(2));
+    QCOMPARE(statistics.misses, quint64(0));
+    QCOMPARE(statistics.peakBytes, quint64(300));
+    QCOMPARE(statistics.bytes, quint64(0));
+}
+
+void tst_PYXMemoryPool::reportsWhatIsOut()
+{
+    const ChildResult result = runOwnProbe("report");
+    QCOMPARE(result.exitCode, 0);
+    QStringList lines = result.errors.split('\n', Qt::SkipEmptyParts);
+    QCOMPARE(
+        lines.mid(0, 2),
+        QStringList({"PYXMemoryPool: there are still 2 block(s) acquired",
+                     "PYXMemoryPool: the blocks will be deleted when the last reference goes out of scope"}));
+    lines.sort();
+    QCOMPARE(lines.mid(0, 2),
+             QStringList({"\t 5 bytes at 0x000000000000abc5", "\t 8 bytes at 0x000000000000abc8"}));
+}
+
+void tst_PYXMemoryPool::booksComeOutEven_data()
+{
+    QTest::addColumn<QVector<unsigned int>>("bounds");
+    QTest::newRow("unbounded") << QVector<unsigned int>{0};
+    QTest::newRow("bounded") << QVector<unsigned int>{24};
+    QTest::newRow("bounded meanwhile") << QVector<unsigned int>{0, 40, 20};
+}
+
+void tst_PYXMemoryPool::booksComeOutEven()
+{
+    QFETCH(QVector<unsigned int>, bounds);
+    PYXMemoryPool pool(m_allocator);
+    pool.setMaximumPoolSize(bounds[0]);
+    std::vector<std::future<quint64>> workers;
+    quint64 got = 0;
+    {
+        Exchange exchange;
+        for (unsigned seed = 1; seed <= ThreadCount; ++seed)
+            workers.push_back(std::async(std::launch::async, work, std::ref(pool), std::ref(exchange), seed));
+        int round = 0;
+        for (auto &worker : workers) {
+            while (worker.wait_for(std::chrono::milliseconds(1)) != std::future_status::ready) {
+                pool.purgeNow(round % 8 - 1);
+                pool.setMaximumPoolSize(bounds[++round % bounds.size()]);
+            }
+            const quint64 blocks = worker.get();
+            QVERIFY(blocks != 0);
+            got += blocks;
+        }
+    }
+    const auto statistics = pool.statistics();
+    QCOMPARE(statistics.hits + statistics.misses, got);
+    QCOMPARE(got + statistics.refusals, quint64(ThreadCount * OperationsPerThread));
+    QCOMPARE(m_allocator->out(), std::size_t(statistics.freeBlocks));
+    if (bounds.size() == 1)
+        QCOMPARE(statistics.acquiredBlocks, 0U);
+    pool.purgeNow(-1);
+    QCOMPARE(pool.statistics().bytes, quint64(0));
+    QCOMPARE(m_allocator->out(), 0U);
+}
+
+void tst_PYXMemoryPool::poolMayGoWhileBlocksComeBack()
+{
+    for (int round = 0; round < 20; ++round) {
+        auto pool = std::make_unique<PYXMemoryPool>(m_allocator);
+        pool->setMaximumPoolSize(ThreadCount);
+        Blocks blocks = acquireAll(*pool, Sizes(ThreadCount, 100));
+        auto *const raw = pool.get();
+        // Asks for what none of the blocks fits, so it waits until the pool goes or any block comes back.
+        auto waiter = std::async(std::launch::async, [raw] { return raw->acquire(1000); });
+        QTRY_COMPARE(pool->statistics().waits, quint64(1));
+        std::promise<void> start;
+        const auto started = start.get_future().share();
+        std::vector<std::thread> holders;
+        for (auto &block : blocks) {
+            holders.emplace_back([started, own = std::move(block)]() mutable {
+                started.wait();
+                own.clear();
+            });
+        }
+        if (round % 2 == 0)
+            start.set_value();
+        pool.reset();
+        QVERIFY(waiter.get() == nullptr);
+        if (round % 2 != 0)
+            start.set_value();
+        for (auto &holder : holders)
+            holder.join();
+        QCOMPARE(m_allocator->out(), 0U);
+    }
+}
+
+int main(int argc, char **argv)
+{
+    QCoreApplication application(argc, argv);
+    if (argc == 3 && qstrcmp(argv[1], "--probe") == 0)
+        return reportProbe();
+    tst_PYXMemoryPool test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_PYXMemoryPool.moc"
