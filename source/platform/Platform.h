@@ -46,6 +46,9 @@ qint64 performanceFrequency(bool *ok);
 /** Time since the system started, in milliseconds, wrapping after 49.7 days. */
 quint32 uptimeMilliseconds();
 
+/** A clock in milliseconds that is cheap to read; it may stand still for some 16 ms. */
+quint64 tickMilliseconds();
+
 /** Now as a FILETIME: 100-ns units since 1601-01-01 00:00:00 UTC. */
 quint64 fileTimeNow();
 
@@ -63,6 +66,12 @@ bool canReplaceOpenFiles();
  * it open stands in the way of writing it.
  */
 bool mayBecomeReplaceable(const QString &file);
+
+/** Whether the open file has no name any more, so that nobody will ever see what is written to it. */
+bool isFileRemoved(int fileHandle);
+
+/** Whether lines of text files end with "\r\n". */
+bool doLinesEndWithCarriageReturn();
 
 /** Tells the shell that files with this suffix are XML texts; does nothing where there is no such registry.
  */

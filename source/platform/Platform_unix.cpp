@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <ctime>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #ifdef __GLIBC__
 #include <malloc.h>
@@ -114,6 +115,11 @@ quint32 uptimeMilliseconds()
     return static_cast<quint32>(nanosecondsOf(CLOCK_BOOTTIME, nullptr) / 1'000'000);
 }
 
+quint64 tickMilliseconds()
+{
+    return static_cast<quint64>(nanosecondsOf(CLOCK_MONOTONIC_COARSE, nullptr) / 1'000'000);
+}
+
 quint64 fileTimeNow()
 {
     return fileTimeOfUnixEpoch() + quint64(nanosecondsOf(CLOCK_REALTIME, nullptr)) / 100;
@@ -135,6 +141,17 @@ bool canReplaceOpenFiles()
 }
 
 bool mayBecomeReplaceable(const QString &)
+{
+    return false;
+}
+
+bool isFileRemoved(int fileHandle)
+{
+    struct stat status = {};
+    return fstat(fileHandle, &status) == 0 && status.st_nlink == 0;
+}
+
+bool doLinesEndWithCarriageReturn()
 {
     return false;
 }

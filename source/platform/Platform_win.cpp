@@ -100,6 +100,11 @@ quint32 uptimeMilliseconds()
     return timeGetTime();
 }
 
+quint64 tickMilliseconds()
+{
+    return GetTickCount64();
+}
+
 quint64 fileTimeNow()
 {
     FILETIME now = {};
@@ -137,6 +142,17 @@ bool mayBecomeReplaceable(const QString &file)
     if (handle == INVALID_HANDLE_VALUE)
         return GetLastError() == ERROR_SHARING_VIOLATION;
     CloseHandle(handle);
+    return true;
+}
+
+bool isFileRemoved(int)
+{
+    // Qt opens files so that they cannot be removed meanwhile.
+    return false;
+}
+
+bool doLinesEndWithCarriageReturn()
+{
     return true;
 }
 

@@ -6,6 +6,7 @@
 #include "Enums.h"
 #include "InitializationCount.h"
 #include "PYXEncryptionManager.h"
+#include "PYXFileListImpl.h"
 #include "PYXNetworkEntry.h"
 #include "PYXProxyManager.h"
 #include "PYXRuntimeCenter.h"
@@ -108,6 +109,7 @@ void uninitialize_PYXRuntime()
     PYXThisRunOnlySettings::destroyInstance();
     if (QSettings::defaultFormat() == PYXXmlSettings::format())
         QSettings::setDefaultFormat(QSettings::NativeFormat);
+    PYXFileListImpl::destroyInstance();
 }
 
 bool isInitialized_PYXRuntime()
