@@ -6,10 +6,13 @@
 #include "BandGenerator.h"
 #include "Colours.h"
 #include "DetectionDock.h"
+#include "DetectionRecorder.h"
 #include "DetectorDialog.h"
 #include "FetchDialog.h"
+#include "FileDock.h"
 #include "HeadlessRun.h"
 #include "LogDock.h"
+#include "PoolDock.h"
 #include "RecentRecordings.h"
 #include "SignalMonitor.h"
 #include "SpectrumView.h"
@@ -20,7 +23,9 @@
 #include "WaterfallView.h"
 #include "WavReader.h"
 
+#include <PYXBroker.h>
 #include <PYXFileFilter.h>
+#include <PYXIApplicationInfo.h>
 #include <PYXSettings.h>
 #include <PYXTraceWrapper.h>
 
@@ -154,7 +159,12 @@ void MainWindow::_createDocks()
     auto *const logDock = new LogDock(this);
     addDockWidget(Qt::BottomDockWidgetArea, logDock);
     m_stationDock = new StationDock(this);
-    tabifyDockWidget(logDock, m_stationDock);
+    m_poolDock = new PoolDock(this);
+    for (QDockWidget *const dock :
+         {static_cast<QDockWidget *>(m_stationDock), static_cast<QDockWidget *>(new FileDock(this)),
+          static_cast<QDockWidget *>(m_poolDock)})
+        tabifyDockWidget(logDock, dock);
+    m_poolDock->hide(); // for developers
     logDock->raise();
 }
 
@@ -170,6 +180,12 @@ void MainWindow::_createActions()
     m_playAction->setShortcut(Qt::Key_Space);
     connect(m_playAction, &QAction::triggered, this, [this] { setPlaying(!m_playTimer.isActive()); });
 
+    m_recordAction = new QAction(symbolIcon(ekSymbol_Record), tr("&Record Detections"), this);
+    m_recordAction->setObjectName(QStringLiteral("recordAction"));
+    m_recordAction->setCheckable(true);
+    m_recordAction->setIconText(tr("Record"));
+    connect(m_recordAction, &QAction::toggled, this, &MainWindow::setRecording);
+
     m_speedBox = new QComboBox;
     for (const double speed : {0.5, 1.0, 2.0, 4.0, 8.0, 16.0})
         m_speedBox->addItem(tr("%1\u00d7").arg(speed), speed);
@@ -179,7 +195,7 @@ void MainWindow::_createActions()
 
     _createFileMenu({openAction, bandAction});
     QMenu *const playMenu = menuBar()->addMenu(tr("&Play"));
-    playMenu->addAction(m_playAction);
+    playMenu->addActions({m_playAction, m_recordAction});
     playMenu->addSeparator();
     playMenu->addAction(tr("&Detector..."), this, &MainWindow::_sl_detectorAction_triggered)
         ->setObjectName(QStringLiteral("detectorAction"));
@@ -189,7 +205,7 @@ void MainWindow::_createActions()
     toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     toolBar->setMovable(false);
     toolBar->setIconSize({18, 18});
-    toolBar->addActions({openAction, bandAction, m_playAction});
+    toolBar->addActions({openAction, bandAction, m_playAction, m_recordAction});
     toolBar->addWidget(m_speedBox);
 }
 
@@ -290,7 +306,12 @@ void MainWindow::_restart()
 
 void MainWindow::_setSource(std::unique_ptr<SampleSource> source)
 {
+    if (m_recorder)
+        m_recorder->setMonitor(nullptr); // lets go of the samples before their pool goes
     m_monitor = std::make_unique<SignalMonitor>(std::move(source));
+    m_poolDock->setPool(&m_monitor->pool());
+    if (m_recorder)
+        m_recorder->setMonitor(m_monitor.get());
     m_monitor->setDetectorParameters(m_detectorParameters);
     connect(m_monitor.get(), &SignalMonitor::si_spectrum, this, &MainWindow::_showSpectrum);
     const SampleSource &opened = m_monitor->source();
@@ -321,6 +342,22 @@ void MainWindow::setPlaying(bool bPlaying)
     m_playAction->setText(bPlaying ? tr("&Pause") : tr("&Play"));
     m_playAction->setIcon(symbolIcon(bPlaying ? ekSymbol_Pause : ekSymbol_Play));
     _showState();
+}
+
+void MainWindow::setRecording(bool bRecording)
+{
+    m_recordAction->setChecked(bRecording);
+    m_recorder.reset();
+    if (!bRecording)
+        return;
+    using PYXRuntime::PYXIApplicationInfo;
+    auto *const info = PYXRuntime::PYXBroker::getInstance()->topObject<PYXIApplicationInfo>();
+    m_recorder = std::make_unique<DetectionRecorder>(
+        info->getSpecialDirPath(PYXIApplicationInfo::eApplicationResultsDir, true));
+    connect(m_recorder.get(), &DetectionRecorder::si_failed, this, [this](const QString &reason) {
+        complain(this, tr("Detections cannot be recorded."), reason, __LINE__);
+    });
+    m_recorder->setMonitor(m_monitor.get());
 }
 
 void MainWindow::playToEnd()

@@ -19,7 +19,9 @@ class QLabel;
 namespace BandMonitor {
 
 class DetectionDock;
+class DetectionRecorder;
 class FrequencyAxis;
+class PoolDock;
 class RecentRecordings;
 class SignalMonitor;
 class SpectrumView;
@@ -42,6 +44,8 @@ public:
     /** Begins to announce itself on the networks of this host, and to listen to others. */
     void joinNetworks();
     void setPlaying(bool bPlaying);
+    /** Writes detections and snippets of new signals into the user's results directory. */
+    void setRecording(bool bRecording);
     /** Processes the whole recording, or some seconds of the own band, without a pause. */
     void playToEnd();
     void setDark(bool bDark);
@@ -72,7 +76,8 @@ private:
     void _sl_playTimer_timeout();
 
     std::unique_ptr<SignalMonitor> m_monitor;
-    QString m_path; ///< of the recording; empty for the own band
+    std::unique_ptr<DetectionRecorder> m_recorder; ///< only while it records
+    QString m_path;                                ///< of the recording; empty for the own band
     QTimer m_playTimer;
     QElapsedTimer m_sinceTick;
     bool m_bArranged = false; ///< whether the docks have got their first sizes
@@ -85,7 +90,9 @@ private:
     WaterfallView *m_waterfallView = nullptr;
     DetectionDock *m_detectionDock = nullptr;
     StationDock *m_stationDock = nullptr;
+    PoolDock *m_poolDock = nullptr;
     QAction *m_playAction = nullptr;
+    QAction *m_recordAction = nullptr;
     QAction *m_darkAction = nullptr;
     QComboBox *m_speedBox = nullptr;
     QLabel *m_sourceLabel = nullptr;

@@ -25,7 +25,7 @@ SignalMonitor::SignalMonitor(std::unique_ptr<SampleSource> source, QObject *pare
     : QObject(parent)
     , m_source(std::move(source))
     , m_analyzer(m_source->sampleRate(), m_source->isComplex())
-    , m_block(BlockSize)
+    , m_pool(nullptr)
 {}
 
 double SignalMonitor::time() const
@@ -38,15 +38,25 @@ bool SignalMonitor::advance(double seconds)
     m_samplesDue += seconds * m_source->sampleRate();
     while (!m_bAtEnd && m_samplesDue >= 1) {
         const std::size_t wanted = std::min(BlockSize, std::size_t(m_samplesDue));
-        const std::size_t count = m_source->read(m_block.data(), wanted);
-        m_samplesRead += qint64(count);
-        m_samplesDue -= double(count);
-        _process(m_analyzer.feed(m_block.data(), count));
-        m_bAtEnd = count < wanted;
+        const struSampleBlock block = _read(wanted);
+        m_samplesRead += qint64(block.count);
+        m_samplesDue -= double(block.count);
+        Q_EMIT si_samples(block);
+        _process(m_analyzer.feed(block.samples(), block.count));
+        m_bAtEnd = block.count < wanted;
     }
     if (m_bAtEnd)
         _process(m_analyzer.finish());
     return !m_bAtEnd;
+}
+
+struSampleBlock SignalMonitor::_read(std::size_t count)
+{
+    // All of one size, however few samples are due: each fits for the next.
+    struSampleBlock block{m_pool.acquire(BlockSize * sizeof(Sample)), 0};
+    if (block.memory->data() != nullptr)
+        block.count = m_source->read(static_cast<Sample *>(block.memory->data()), count);
+    return block;
 }
 
 void SignalMonitor::_process(const std::vector<struSpectrum> &spectra)

@@ -2,9 +2,11 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "SampleSource.h"
+#include "SampleBlock.h"
 #include "SignalDetector.h"
 #include "SpectrumAnalyzer.h"
+
+#include <PYXMemoryPool.h>
 
 #include <QtCore/QObject>
 
@@ -22,6 +24,8 @@ public:
 
     const SampleSource &source() const { return *m_source; }
     const SignalDetector &detector() const { return m_detector; }
+    /** Of the sample buffers. */
+    const PYXRuntime::PYXMemoryPool &pool() const { return m_pool; }
     /** How far the source has been read, in seconds. */
     double time() const;
     bool isAtEnd() const { return m_bAtEnd; }
@@ -35,16 +39,19 @@ public:
     bool advance(double seconds);
 
 Q_SIGNALS:
+    /** Before the spectra that they complete. Whoever keeps the block keeps its memory from being reused. */
+    void si_samples(const BandMonitor::struSampleBlock &a_block);
     void si_spectrum(const BandMonitor::struSpectrum &a_spectrum);
 
 private:
+    struSampleBlock _read(std::size_t count);
     void _process(const std::vector<struSpectrum> &spectra);
     void _describe(double time) const;
 
     std::unique_ptr<SampleSource> m_source;
     SpectrumAnalyzer m_analyzer;
     SignalDetector m_detector;
-    std::vector<Sample> m_block;
+    PYXRuntime::PYXMemoryPool m_pool;
     qint64 m_samplesRead = 0;
     double m_samplesDue = 0;
     double m_lastTime = 0; ///< of a spectrum, in seconds

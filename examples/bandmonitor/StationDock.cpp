@@ -2,17 +2,15 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "StationDock.h"
 
+#include "CompactTable.h"
 #include "PeerModel.h"
-#include "Scale.h"
 #include "StationModel.h"
 
 #include <PYXTraceWrapper.h>
 
 #include <QtWidgets/QHBoxLayout>
-#include <QtWidgets/QHeaderView>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QTableView>
-#include <QtWidgets/QVBoxLayout>
 
 using PYXRuntime::PYXNetworkEntry;
 
@@ -21,43 +19,6 @@ namespace {
 
 const char TraceFile[] = "bandmonitor\\StationDock";
 
-QTableView *createTable(QAbstractItemModel *model, const QFont &font)
-{
-    auto *const table = new QTableView;
-    table->setFont(smallerFont(font));
-    table->setModel(model);
-    table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table->setSelectionMode(QAbstractItemView::SingleSelection);
-    table->setShowGrid(false);
-    table->setFrameShape(QFrame::NoFrame);
-    table->setTabKeyNavigation(false);
-    table->verticalHeader()->hide();
-    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 6);
-    table->horizontalHeader()->setFont(table->font());
-    table->horizontalHeader()->setHighlightSections(false);
-    table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-    return table;
-}
-
-/** A table with its buttons below. */
-QWidget *withButtons(QTableView *table, const QList<QPushButton *> &buttons)
-{
-    auto *const row = new QHBoxLayout;
-    row->setContentsMargins(4, 0, 4, 4);
-    for (QPushButton *const button : buttons) {
-        button->setFont(table->font());
-        row->addWidget(button);
-    }
-    row->addStretch();
-    auto *const part = new QWidget;
-    auto *const layout = new QVBoxLayout(part);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(4);
-    layout->addWidget(table);
-    layout->addLayout(row);
-    return part;
-}
-
 } // namespace
 
 StationDock::StationDock(QWidget *parent)
@@ -65,8 +26,8 @@ StationDock::StationDock(QWidget *parent)
     , m_announcement(struAnnouncement::own())
     , m_stations(new StationModel(m_announcement.id, this))
     , m_peers(new PeerModel(*m_stations, this))
-    , m_stationTable(createTable(m_stations, font()))
-    , m_peerTable(createTable(m_peers, font()))
+    , m_stationTable(createCompactTable(m_stations, font()))
+    , m_peerTable(createCompactTable(m_peers, font()))
 {
     setObjectName(QStringLiteral("stationDock"));
     setWindowTitle(tr("Stations"));

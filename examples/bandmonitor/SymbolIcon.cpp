@@ -36,6 +36,9 @@ QPainterPath outline(eSymbol symbol)
     case ekSymbol_Play:
         path.addPolygon(QPolygonF({{7, 5}, {19, 12}, {7, 19}, {7, 5}}));
         return path;
+    case ekSymbol_Record:
+        path.addEllipse(QPointF(12, 12), 7, 7);
+        return path;
     default:
         path.addRect(6, 5, 4, 14);
         path.addRect(14, 5, 4, 14);
@@ -54,7 +57,8 @@ public:
     {
         const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
         const QColor colour = QGuiApplication::palette().color(group, QPalette::ButtonText);
-        const bool bFilled = m_symbol == ekSymbol_Play || m_symbol == ekSymbol_Pause;
+        const bool bFilled =
+            m_symbol == ekSymbol_Play || m_symbol == ekSymbol_Pause || m_symbol == ekSymbol_Record;
         painter->save();
         painter->setRenderHint(QPainter::Antialiasing);
         painter->translate(rect.topLeft());

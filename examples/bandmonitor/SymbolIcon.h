@@ -6,7 +6,7 @@
 
 namespace BandMonitor {
 
-enum eSymbol { ekSymbol_Open, ekSymbol_OwnBand, ekSymbol_Play, ekSymbol_Pause };
+enum eSymbol { ekSymbol_Open, ekSymbol_OwnBand, ekSymbol_Play, ekSymbol_Pause, ekSymbol_Record };
 
 /** A plain icon that is drawn in the colour of the text beside it, whatever the palette is then. */
 QIcon symbolIcon(eSymbol symbol);

@@ -84,6 +84,7 @@ bool initialize_PYXRuntime(ePYXInitializeFlags flags)
     PYXProxyManager::makeSureInitialized();
     PYXStatusHash::registerMetaType();
     PYXNetworkEntry::registerMetaTypes();
+    PYXFileListImpl::makeSureInitialized(); // whoever writes files finds it through the broker
     if (!flags.testFlag(ekInitialize_NoFonts))
         setUpFonts(flags);
     s_initializationFlags = flags;

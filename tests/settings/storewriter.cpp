@@ -17,8 +17,9 @@ constexpr int KeysPerSave = 25;
 constexpr int KeysOfGeneration = 100;
 
 /**
- * On Windows, looking at the file while another process replaces it is an access error as well, though nothing
- * is lost; the status keeps it. Another object on the file tells whether there is anything left to save.
+ * On Windows, looking at the file while another process replaces it is an access error as well, though
+ * nothing is lost; the status keeps it. Another object on the file tells whether there is anything left to
+ * save.
  */
 bool isSaved(PYXSettings &settings)
 {

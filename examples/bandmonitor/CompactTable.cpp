@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The PYXRuntime developers
+// SPDX-License-Identifier: BSD-3-Clause
+#include "CompactTable.h"
+
+#include "Scale.h"
+
+#include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QHeaderView>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QTableView>
+#include <QtWidgets/QVBoxLayout>
+
+namespace BandMonitor {
+
+QTableView *createCompactTable(QAbstractItemModel *model, const QFont &font)
+{
+    auto *const table = new QTableView;
+    table->setFont(smallerFont(font));
+    table->setModel(model);
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setSelectionMode(QAbstractItemView::SingleSelection);
+    table->setShowGrid(false);
+    table->setFrameShape(QFrame::NoFrame);
+    table->setTabKeyNavigation(false);
+    table->verticalHeader()->hide();
+    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 6);
+    table->horizontalHeader()->setFont(table->font());
+    table->horizontalHeader()->setHighlightSections(false);
+    table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    return table;
+}
+
+QWidget *withButtons(QTableView *table, const QList<QPushButton *> &buttons)
+{
+    auto *const row = new QHBoxLayout;
+    row->setContentsMargins(4, 0, 4, 4);
+    for (QPushButton *const button : buttons) {
+        button->setFont(table->font());
+        row->addWidget(button);
+    }
+    row->addStretch();
+    auto *const part = new QWidget;
+    auto *const layout = new QVBoxLayout(part);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(4);
+    layout->addWidget(table);
+    layout->addLayout(row);
+    return part;
+}
+
+} // namespace BandMonitor

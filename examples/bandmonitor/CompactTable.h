@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The PYXRuntime developers
+// SPDX-License-Identifier: BSD-3-Clause
+#pragma once
+
+#include <QtCore/QList>
+
+class QAbstractItemModel;
+class QFont;
+class QPushButton;
+class QTableView;
+class QWidget;
+
+namespace BandMonitor {
+
+/** A table for a dock: rows are selected one at a time, columns share the width. */
+QTableView *createCompactTable(QAbstractItemModel *model, const QFont &font);
+/** The table with its buttons in a row below. */
+QWidget *withButtons(QTableView *table, const QList<QPushButton *> &buttons);
+
+} // namespace BandMonitor

@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The PYXRuntime developers
+// SPDX-License-Identifier: BSD-3-Clause
+#include "FileDock.h"
+
+#include "CompactTable.h"
+#include "FileModel.h"
+
+#include <QtCore/QFileInfo>
+#include <QtCore/QUrl>
+#include <QtGui/QDesktopServices>
+#include <QtWidgets/QHeaderView>
+#include <QtWidgets/QPushButton>
+#include <QtWidgets/QTableView>
+
+namespace BandMonitor {
+
+FileDock::FileDock(QWidget *parent)
+    : QDockWidget(parent)
+    , m_model(new FileModel(this))
+    , m_table(createCompactTable(m_model, font()))
+{
+    setObjectName(QStringLiteral("fileDock"));
+    setWindowTitle(tr("Files"));
+    m_table->setObjectName(QStringLiteral("fileTable"));
+    m_table->setAccessibleName(tr("Written files"));
+    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_table->horizontalHeader()->setSectionResizeMode(FileModel::ekColumn_File, QHeaderView::Stretch);
+    auto *const openButton = new QPushButton(tr("&Open File"));
+    auto *const folderButton = new QPushButton(tr("Open &Folder"));
+    connect(openButton, &QPushButton::clicked, this, [this] { _open(false); });
+    connect(folderButton, &QPushButton::clicked, this, [this] { _open(true); });
+    connect(m_table, &QTableView::activated, this, [this] { _open(false); });
+    setWidget(withButtons(m_table, {openButton, folderButton}));
+}
+
+void FileDock::_open(bool bFolder) const
+{
+    const QModelIndex current = m_table->currentIndex();
+    if (!current.isValid())
+        return;
+    const QString path = m_model->path(current.row());
+    QDesktopServices::openUrl(QUrl::fromLocalFile(bFolder ? QFileInfo(path).path() : path));
+}
+
+} // namespace BandMonitor
