@@ -66,7 +66,7 @@ public:
 
 private:
     const QString m_service;
-    const std::unique_ptr<KeychainVault> m_vault;
+    const std::shared_ptr<KeychainVault> m_vault;
 };
 
 } // namespace PYXRuntime

@@ -18,7 +18,7 @@ void wipe(Array &array)
 {
     auto *const data = array.data_ptr();
     // Nothing but what the array has allocated itself may be written.
-    if (array.isEmpty() || !data->isMutable() || data->ref.isStatic())
+    if (!data->isMutable() || data->ref.isStatic())
         return;
     auto *const elements = data->data();
     fillWithRandom(elements, std::size_t(data->size) * sizeof(*elements));

@@ -86,9 +86,9 @@ QSize PYXAddressEdit::sizeHint() const
     QSize hint = QLineEdit::sizeHint();
     hint.rwidth() += fontMetrics().horizontalAdvance(widest) -
                      UsualLength * fontMetrics().horizontalAdvance(QLatin1Char('x'));
-    // The line edit counts a sign that is there; the width must not depend on what is typed.
+    // What the line edit adds for a sign that is there: the width must not depend on what is typed.
     if (!m_sign->isVisible())
-        hint.rwidth() += style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this) * 3 / 2;
+        hint.rwidth() += style()->pixelMetric(QStyle::PM_SmallIconSize, nullptr, this) * 5 / 4 + 6;
     return hint;
 }
 

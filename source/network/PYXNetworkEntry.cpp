@@ -98,7 +98,9 @@ void PYXNetworkEntry::registerMetaTypes()
 {
     qRegisterMetaType<PYXNetworkEntry>();
     qRegisterMetaType<QList<PYXNetworkEntry>>();
-    QMetaType::registerEqualsComparator<PYXNetworkEntry>();
+    // The library may be initialised again, and Qt warns of a second registration.
+    if (!QMetaType::hasRegisteredComparators<PYXNetworkEntry>())
+        QMetaType::registerEqualsComparator<PYXNetworkEntry>();
 }
 
 } // namespace PYXRuntime

@@ -22,7 +22,7 @@ KeychainEncryptionProvider::KeychainEncryptionProvider(QObject *parent)
 KeychainEncryptionProvider::KeychainEncryptionProvider(const QString &service, QObject *parent)
     : QObject(parent)
     , m_service(service)
-    , m_vault(std::make_unique<KeychainVault>())
+    , m_vault(std::make_shared<KeychainVault>())
 {}
 
 KeychainEncryptionProvider::~KeychainEncryptionProvider() = default;
@@ -44,7 +44,9 @@ bool KeychainEncryptionProvider::isSupported()
 
 bool KeychainEncryptionProvider::open(QString *error, int timeoutMs)
 {
-    const QString reason = m_vault->open(m_service, timeoutMs);
+    // The provider may be deleted while the store is asked.
+    const std::shared_ptr<KeychainVault> vault = m_vault;
+    const QString reason = vault->open(m_service, timeoutMs);
     if (error != nullptr)
         *error = reason;
     return reason.isEmpty();

@@ -98,9 +98,13 @@ KeychainEntry::eAnswer KeychainEntry::read(QByteArray &secret, QString &error) c
 KeychainEntry::eAnswer KeychainEntry::write(const QByteArray &secret, QString &error) const
 {
     ScopedJob<QKeychain::WritePasswordJob> job(m_service, m_name);
-    const WipedBytes copy(PYXByteArrayHelpers::trueCopy(secret));
-    job->setBinaryData(copy.value);
-    if (job.run(m_timeoutMs) && job->error() == QKeychain::NoError)
+    QByteArray copy = PYXByteArrayHelpers::trueCopy(secret);
+    job->setBinaryData(copy);
+    const bool bFinished = job.run(m_timeoutMs);
+    // A late job still writes what it shares with this copy: better the key than what wiping leaves of it.
+    if (bFinished)
+        PYXByteArrayHelpers::safeOverwriteAndClear(copy);
+    if (bFinished && job->error() == QKeychain::NoError)
         return ekAnswer_Found;
     error = job.error();
     return ekAnswer_Failed;

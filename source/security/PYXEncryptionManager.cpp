@@ -108,7 +108,10 @@ void PYXEncryptionManager::unregisterEncryptionProvider(QObject *provider)
 
 bool PYXEncryptionManager::registerAndSetEncryptionProvider(QObject *provider)
 {
-    return registerEncryptionProvider(provider) && setEncryptionProvider(provider);
+    // Whoever listens to the registration may delete the provider, or this.
+    const QPointer<PYXEncryptionManager> self(this);
+    const QPointer<QObject> object(provider);
+    return registerEncryptionProvider(provider) && self && setEncryptionProvider(object);
 }
 
 bool PYXEncryptionManager::setEncryptionProvider(QObject *provider)

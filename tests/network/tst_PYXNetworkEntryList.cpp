@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "PYXHostAddressHelpers.h"
 #include "PYXNetworkEntryList.h"
-#include "PYXRuntime.h"
 #include "PYXSettings.h"
 #include "RecordingTracer.h"
 #include "SettingsHome.h"
@@ -21,6 +20,20 @@ PYXNetworkEntry fullEntry()
     PYXNetworkEntry entry("North, \"old\"", Address, 8080, Id);
     entry.setGeoPosition(48.123456789, -11.5, 520);
     entry.setDirection(true, 90, 15);
+    return entry;
+}
+
+PYXNetworkEntry lookingEntry(bool use, double azimuth, double beamWidth)
+{
+    PYXNetworkEntry entry;
+    entry.setDirection(use, azimuth, beamWidth);
+    return entry;
+}
+
+PYXNetworkEntry standingEntry(double latitude, double longitude)
+{
+    PYXNetworkEntry entry;
+    entry.setGeoPosition(latitude, longitude, 0);
     return entry;
 }
 
@@ -56,13 +69,10 @@ class tst_PYXNetworkEntryList : public QObject
     Q_OBJECT
 private slots:
     void init() { m_home.reset(new SettingsHome); }
-    void parsingAnEntry_data();
-    void parsingAnEntry();
+    void textsOfAnEntry();
     void comparingEntries();
     void savedLayoutAndBack();
     void emptyKeys();
-    void savingLeavesNothingOfTheOldElements();
-    void foreignValuesOfAnElement_data();
     void foreignValuesOfAnElement();
     void claimedSizeIsNotTrusted();
     void files();
@@ -73,22 +83,17 @@ private:
     QScopedPointer<SettingsHome> m_home;
 };
 
-void tst_PYXNetworkEntryList::parsingAnEntry_data()
+void tst_PYXNetworkEntryList::textsOfAnEntry()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<PYXNetworkEntry>("entry");
-    QTest::newRow("usual") << "10.0.0.5:8080" << PYXNetworkEntry("10.0.0.5:8080", Address, 8080, QUuid());
-    QTest::newRow("port 0") << "10.0.0.5:0" << PYXNetworkEntry("10.0.0.5:0", Address, 0, QUuid());
-    QTest::newRow("name") << "station:80" << PYXNetworkEntry("station:80", QHostAddress(), 80, QUuid());
+    QCOMPARE(PYXNetworkEntry::parseIPPortString("10.0.0.5:8080"),
+             PYXNetworkEntry("10.0.0.5:8080", Address, 8080, QUuid()));
+    QCOMPARE(PYXNetworkEntry::parseIPPortString("station:0"),
+             PYXNetworkEntry("station:0", QHostAddress(), 0, QUuid()));
     for (const char *text : {"", ":", "10.0.0.5", "10.0.0.5:", ":80", "10.0.0.5:65536", "10.0.0.5:-1",
                              "10.0.0.5:0x50", "10.0.0.5:9999999999", "::1", "fd00::1:80"})
-        QTest::addRow("\"%s\"", text) << text << PYXNetworkEntry();
-}
-
-void tst_PYXNetworkEntryList::parsingAnEntry()
-{
-    QFETCH(QString, text);
-    QTEST(PYXNetworkEntry::parseIPPortString(text), "entry");
+        QVERIFY2(PYXNetworkEntry::parseIPPortString(text) == PYXNetworkEntry(), text);
+    QCOMPARE(PYXNetworkEntry("%1", Address, 80, Id).toString(), QString("%1 (10.0.0.5:80)"));
+    QCOMPARE(PYXNetworkEntry(Address, 80, Id).toString(), QString("10.0.0.5:80"));
 }
 
 void tst_PYXNetworkEntryList::comparingEntries()
@@ -103,13 +108,8 @@ void tst_PYXNetworkEntryList::comparingEntries()
     QVERIFY(fullEntry().matches(Address, 0) && fullEntry().matches({Address, 8080, QUuid()}));
     QVERIFY(!fullEntry().matches(Address, 8081) && !fullEntry().matches(QHostAddress("10.0.0.6"), 0));
     QVERIFY(!PYXNetworkEntry(Address, 0, Id).matches(fullEntry())); // only the other's 0 stands for any
-    PYXNetworkEntry entry;
-    entry.setDirection(true, 1, 2);
-    QVERIFY(entry.isNull() && !entry.isValid() && !PYXNetworkEntry(Address, 0, Id).isValid());
-    entry.setGeoPosition(0, 0, 0);
-    QVERIFY(!entry.isNull() && fullEntry().isValid());
-    QCOMPARE(PYXNetworkEntry("%1", Address, 80, Id).toString(), QString("%1 (10.0.0.5:80)"));
-    QCOMPARE(PYXNetworkEntry(Address, 80, Id).toString(), QString("10.0.0.5:80"));
+    QVERIFY(lookingEntry(true, 1, 2).isNull() && !standingEntry(0, 0).isNull());
+    QVERIFY(fullEntry().isValid() && !PYXNetworkEntry(Address, 0, Id).isValid());
 }
 
 void tst_PYXNetworkEntryList::savedLayoutAndBack()
@@ -145,8 +145,16 @@ void tst_PYXNetworkEntryList::savedLayoutAndBack()
     QCOMPARE(restored, QList<PYXNetworkEntry>({north, twoPeers().at(1)}));
     QCOMPARE(restored.interfaceAddress(), QHostAddress("10.0.0.1"));
     QCOMPARE(restored.defaultEntry(), restored.at(1));
-    settings.clear(); // what is absent resets what the list had
-    QVERIFY(restored.restore(settings) && restored.isEmpty());
+
+    // Nothing of old elements stays, nor of what the list had.
+    settings.setValue("My/Peers/1/Azimuth", "90");
+    settings.setValue("My/Peers/ColumnWidths", "kept");
+    PYXNetworkEntryList list = emptyList();
+    list << PYXNetworkEntry(Address, 80, QUuid());
+    QVERIFY(list.save(settings) && restored.restore(settings));
+    QVERIFY(settings.contains("My/Peers/ColumnWidths") && !settings.contains("My/Peers/2/ItemName"));
+    QCOMPARE(restored, list);
+    QVERIFY(emptyList().save(settings) && restored.restore(settings) && restored.isEmpty());
     QVERIFY(restored.interfaceAddress().isNull() && restored.defaultEntryName().isEmpty());
 }
 
@@ -164,94 +172,56 @@ void tst_PYXNetworkEntryList::emptyKeys()
     QCOMPARE(list.groupKey(), QString("Peers"));
 }
 
-void tst_PYXNetworkEntryList::savingLeavesNothingOfTheOldElements()
-{
-    PYXSettings settings(PYXSettings::eUserApplicationSettings);
-    QVERIFY(twoPeers().save(settings));
-    settings.setValue("My/Peers/1/Azimuth", "90");
-    settings.setValue("My/Peers/ColumnWidths", "kept");
-    PYXNetworkEntryList list = emptyList();
-    list << PYXNetworkEntry(Address, 80, QUuid());
-    QVERIFY(list.save(settings));
-    QVERIFY(settings.contains("My/Peers/ColumnWidths") && !settings.contains("My/Peers/2/ItemName"));
-    PYXNetworkEntryList restored = emptyList();
-    restored.restore(settings);
-    QCOMPARE(restored, list);
-    QVERIFY(emptyList().save(settings) && restored.restore(settings) && restored.isEmpty());
-}
-
-void tst_PYXNetworkEntryList::foreignValuesOfAnElement_data()
-{
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<PYXNetworkEntry>("expected");
-    const auto row = [](const char *key, const QVariant &value, const PYXNetworkEntry &expected) {
-        QTest::addRow("%s %s", key, qPrintable(value.toString())) << key << value << expected;
-    };
-    const auto at = [](double latitude, double longitude) {
-        PYXNetworkEntry entry;
-        entry.setGeoPosition(latitude, longitude, 0);
-        return entry;
-    };
-    const auto looking = [](bool use, double azimuth, double beamWidth) {
-        PYXNetworkEntry entry;
-        entry.setDirection(use, azimuth, beamWidth);
-        return entry;
-    };
-    row("ItemIP", "10.0.0.300", {});
-    row("ItemPort", "80", {QHostAddress(), 80, QUuid()});
-    row("ItemPort", 99999, {QHostAddress(), 65535, QUuid()});
-    row("ItemPort", "99999999999", {QHostAddress(), 65535, QUuid()});
-    row("ItemPort", "-1", {});
-    row("ItemPort", "abc", {});
-    row("ItemUuid", Id.toString().toUpper(), {QHostAddress(), 0, Id});
-    row("ItemUuid", Id.toString(QUuid::WithoutBraces), {});
-    row("Latitude", "48.5", at(48.5, 0));
-    row("Longitude", "-7", at(0, -7));
-    row("Latitude", "nan", {});
-    row("UseDirection", "false", looking(false, 0, 0));
-    row("UseDirection", true, looking(true, 0, 0));
-    row("Azimuth", "90", looking(false, 90, 0));
-    row("BeamWidth", "15", looking(false, 0, 15));
-    row("BeamWidth", "", {});
-}
-
 void tst_PYXNetworkEntryList::foreignValuesOfAnElement()
 {
-    QFETCH(QString, key);
-    QFETCH(QVariant, value);
+    const std::tuple<const char *, QVariant, PYXNetworkEntry> values[] = {
+        {"ItemIP", "10.0.0.300", {}},
+        {"ItemPort", "80", {QHostAddress(), 80, QUuid()}},
+        {"ItemPort", 99999, {QHostAddress(), 65535, QUuid()}},
+        {"ItemPort", "99999999999", {QHostAddress(), 65535, QUuid()}},
+        {"ItemPort", "-1", {}},
+        {"ItemPort", "abc", {}},
+        {"ItemUuid", Id.toString().toUpper(), {QHostAddress(), 0, Id}},
+        {"ItemUuid", Id.toString(QUuid::WithoutBraces), {}},
+        {"Latitude", "48.5", standingEntry(48.5, 0)},
+        {"Longitude", "-7", standingEntry(0, -7)},
+        {"Latitude", "nan", {}},
+        {"UseDirection", "false", lookingEntry(false, 0, 0)},
+        {"UseDirection", true, lookingEntry(true, 0, 0)},
+        {"Azimuth", "90", lookingEntry(false, 90, 0)},
+        {"BeamWidth", "15", lookingEntry(false, 0, 15)},
+        {"BeamWidth", "", {}},
+    };
     PYXSettings settings(PYXSettings::eUserApplicationSettings);
-    settings.setValue("My/Peers/size", 1);
-    settings.QSettings::setValue("My/Peers/1/" + key, value);
-    PYXNetworkEntryList list = emptyList();
-    list.restore(settings);
-    QCOMPARE(list.size(), 1);
-    QTEST(list.first(), "expected");
+    for (const auto &[key, value, expected] : values) {
+        settings.clear();
+        settings.setValue("My/Peers/size", 1);
+        settings.QSettings::setValue(QString("My/Peers/1/") + key, value);
+        PYXNetworkEntryList list = emptyList();
+        list.restore(settings);
+        QCOMPARE(list.size(), 1);
+        QVERIFY2(list.first() == expected, qPrintable(key + (' ' + value.toString())));
+    }
 }
 
 void tst_PYXNetworkEntryList::claimedSizeIsNotTrusted()
 {
-    const struct
-    {
-        int claimed;
-        QStringList elements;
-        int size;
-    } arrays[] = {
+    const std::tuple<int, QStringList, int> arrays[] = {
         {2'000'000'000, {"1", "3"}, 3}, // no further than what is there
         {1, {"1", "2"}, 1},
         {-5, {"1"}, 0},
         {2'000'000'000, {"1", "2000000000"}, 1001}, // not all the way to an absurd element
         {5, {"01", "one", "0", "-1"}, 0},
     };
-    for (const auto &array : arrays) {
-        PYXSettings settings(PYXSettings::eUserApplicationSettings);
+    PYXSettings settings(PYXSettings::eUserApplicationSettings);
+    for (const auto &[claimed, elements, size] : arrays) {
         settings.clear();
-        settings.setValue("Group/size", array.claimed);
-        for (const QString &element : array.elements)
+        settings.setValue("Group/size", claimed);
+        for (const QString &element : elements)
             settings.setValue("Group/" + element + "/ItemName", element);
         PYXNetworkEntryList list;
         list.restore(settings);
-        QCOMPARE(list.size(), array.size);
+        QCOMPARE(list.size(), size);
     }
 }
 
@@ -287,9 +257,6 @@ void tst_PYXNetworkEntryList::questionsToAList()
     other.removeLast();
     other[1] = {QHostAddress("fe80::1"), 0, QUuid()};
     QVERIFY(list.matches(other) && !other.matches(list));
-    QVERIFY(initialize_PYXRuntime(ekInitialize_NoFonts));
-    uninitialize_PYXRuntime();
-    QVERIFY(QMetaType::type("QList<PYXRuntime::PYXNetworkEntry>") != QMetaType::UnknownType);
 }
 
 void tst_PYXNetworkEntryList::peerToContact()

@@ -3,14 +3,31 @@
 
 // Looks through the memory of another process for a password that it has wiped.
 
-#include <QtCore/QDir>
-#include <QtCore/QFile>
+#include "PYXProxyManager.h"
+#include "PYXSettings.h"
+#include "PYXStringHelpers.h"
+#include "SettingsHome.h"
+
 #include <QtCore/QProcess>
 #include <QtTest/QtTest>
 
+#include <cstdio>
+
+using namespace PYXRuntime;
+
 namespace {
 
-const QString Password = "correct horse battery staple";
+/** Its own text never stands in the memory of the process that is looked at. */
+QString password()
+{
+    constexpr char Masked[] = "&*77 &1e-*76 e'$11 7<e61$5) ";
+    const volatile char mask = 0x45; // the compiler must not work it out
+    QString text;
+    text.reserve(int(sizeof Masked)); // one buffer
+    for (const char *character = Masked; *character != 0; ++character)
+        text += QLatin1Char(char(*character ^ mask));
+    return text;
+}
 
 /** Sanitizers reserve terabytes. */
 constexpr qint64 LargestRegion = 256 << 20;
@@ -34,9 +51,33 @@ QByteArray writableMemory(qint64 process)
     return all;
 }
 
-QByteArray utf16(const QString &text)
+/** Tells the test how far the process is, and waits for it. */
+void say(const char *state)
 {
-    return {reinterpret_cast<const char *>(text.utf16()), 2 * text.size()};
+    std::puts(state);
+    std::fflush(stdout);
+    std::getchar();
+}
+
+/** Puts a proxy with a password in force. In the end only the factory has it still. */
+int handlePassword()
+{
+    const SettingsHome home;
+    {
+        QString plain = password();
+        ProxyConfiguration configuration("proxy.example", 3128, "user", plain);
+        PYXStringHelpers::safeOverwriteAndClear(plain);
+        say("held");
+        PYXSettings settings(PYXSettings::eUserApplicationSettings);
+        configuration.save(&settings, PYXProxyManager::settingsKey(), true);
+        PYXProxyManager::applyProxyConfiguration(configuration);
+        auto restored = ProxyConfiguration::restoredFrom(&settings, PYXProxyManager::settingsKey(), nullptr);
+        restored = configuration;
+        configuration.obfuscateProxyPassword();
+        configuration.unobfuscateProxyPassword();
+    }
+    say("wiped");
+    return 0;
 }
 
 } // namespace
@@ -52,29 +93,38 @@ void tst_SecretMemory::wipedTextsAreGone()
 {
     QProcess probe;
     probe.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    probe.start(QDir(QCoreApplication::applicationDirPath()).filePath("secretprobe"), QStringList());
-    const auto saysNext = [&probe] {
-        while (!probe.canReadLine()) {
-            if (!probe.waitForReadyRead())
-                return QByteArray("nothing");
-        }
-        return probe.readLine().trimmed();
+    probe.start(QCoreApplication::applicationFilePath(), {"--probe"});
+    QByteArray said;
+    const auto memoryWhenItSpeaks = [&] {
+        while (!probe.canReadLine() && probe.waitForReadyRead())
+            continue;
+        said = probe.readLine().trimmed();
+        const QByteArray memory = writableMemory(probe.processId());
+        probe.write("\n");
+        return memory;
     };
-    QCOMPARE(saysNext(), QByteArray("held"));
-    const QByteArray before = writableMemory(probe.processId());
+    const QByteArray secret(reinterpret_cast<const char *>(password().utf16()), 2 * password().size());
+    const QByteArray before = memoryWhenItSpeaks();
+    QCOMPARE(said, "held");
     if (before.isEmpty())
         QSKIP("the memory of other processes cannot be read here");
-    QVERIFY(before.contains(utf16(Password))); // so it would be found
-    probe.write("\n");
-    QCOMPARE(saysNext(), QByteArray("wiped"));
-    const QByteArray after = writableMemory(probe.processId());
+    QVERIFY(before.contains(secret)); // so it would be found
+    const QByteArray after = memoryWhenItSpeaks();
+    QCOMPARE(said, "wiped");
     QVERIFY(after.contains("proxy.example"));
     // Only texts can be wiped to the last: of bytes, the digest and the compression leave some behind.
-    QCOMPARE(after.count(utf16(Password)), 0);
-    probe.write("\n");
+    QCOMPARE(after.count(secret), 0);
     QVERIFY(probe.waitForFinished());
     QCOMPARE(probe.exitCode(), 0);
 }
 
-QTEST_GUILESS_MAIN(tst_SecretMemory)
+int main(int argc, char **argv)
+{
+    QCoreApplication application(argc, argv);
+    if (QCoreApplication::arguments().contains("--probe"))
+        return handlePassword();
+    tst_SecretMemory test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_SecretMemory.moc"
