@@ -36,10 +36,8 @@ class tst_PYXAddressEdit : public QObject
     Q_OBJECT
 private slots:
     void typing();
-    void leavingCompletesTheAddress_data();
     void leavingCompletesTheAddress();
     void pasting();
-    void settingAnAddress();
     void switchingTheProtocol();
     void whatAScreenReaderSays();
 };
@@ -66,42 +64,30 @@ void tst_PYXAddressEdit::typing()
     QCOMPARE(edit.address(), second);
 }
 
-void tst_PYXAddressEdit::leavingCompletesTheAddress_data()
-{
-    QTest::addColumn<int>("protocol");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("left");
-    QTest::newRow("nothing") << int(QAbstractSocket::IPv4Protocol) << ""
-                             << "";
-    QTest::newRow("incomplete") << int(QAbstractSocket::IPv4Protocol) << "10.1"
-                                << "10.1.0.0";
-    QTest::newRow("too large") << int(QAbstractSocket::IPv4Protocol) << "10.0.0.300"
-                               << "10.0.0.255";
-    QTest::newRow("leading zeros") << int(QAbstractSocket::IPv4Protocol) << "010.1.2.3"
-                                   << "10.1.2.3";
-    QTest::newRow("IPv6") << int(QAbstractSocket::IPv6Protocol) << "FD00:0::1"
-                          << "fd00::1";
-    QTest::newRow("IPv6, nothing") << int(QAbstractSocket::IPv6Protocol) << ""
-                                   << "";
-    QTest::newRow("either, IPv4") << int(QAbstractSocket::AnyIPProtocol) << "10."
-                                  << "10.0.0.0";
-    QTest::newRow("either, IPv6") << int(QAbstractSocket::AnyIPProtocol) << "fd00:"
-                                  << "fd00::";
-    QTest::newRow("either, unclear") << int(QAbstractSocket::AnyIPProtocol) << "10"
-                                     << "10";
-}
-
 void tst_PYXAddressEdit::leavingCompletesTheAddress()
 {
-    QFETCH(int, protocol);
-    QFETCH(QString, typed);
-    QFETCH(QString, left);
-    PYXIPEdit edit;
-    edit.setProtocol(QAbstractSocket::NetworkLayerProtocol(protocol));
-    QTest::keyClicks(&edit, typed);
-    QCOMPARE(edit.text(), typed);
-    QTest::keyClick(&edit, Qt::Key_Return);
-    QCOMPARE(edit.text(), left);
+    constexpr auto IPv4 = QAbstractSocket::IPv4Protocol;
+    constexpr auto IPv6 = QAbstractSocket::IPv6Protocol;
+    constexpr auto Either = QAbstractSocket::AnyIPProtocol;
+    const std::tuple<QAbstractSocket::NetworkLayerProtocol, QString, QString> texts[] = {
+        {IPv4, "", ""},
+        {IPv4, "10.1", "10.1.0.0"},
+        {IPv4, "10.0.0.300", "10.0.0.255"},
+        {IPv4, "010.1.2.3", "10.1.2.3"},
+        {IPv6, "", ""},
+        {IPv6, "FD00:0::1", "fd00::1"},
+        {Either, "10.", "10.0.0.0"},
+        {Either, "fd00:", "fd00::"},
+        {Either, "10", "10"}, // nobody knows what is meant
+    };
+    for (const auto &[protocol, typed, left] : texts) {
+        PYXIPEdit edit;
+        edit.setProtocol(protocol);
+        QTest::keyClicks(&edit, typed);
+        QCOMPARE(edit.text(), typed);
+        QTest::keyClick(&edit, Qt::Key_Return);
+        QCOMPARE(edit.text(), left);
+    }
 }
 
 void tst_PYXAddressEdit::pasting()
@@ -138,43 +124,27 @@ void tst_PYXAddressEdit::pasting()
     QCOMPARE(ipv6.address().scopeId(), QString("eth0"));
 }
 
-void tst_PYXAddressEdit::settingAnAddress()
-{
-    PYXIPv4Edit edit;
-    int changes = 0;
-    connect(&edit, &PYXAddressEdit::si_addressChanged, [&] { ++changes; });
-    const QHostAddress address("10.0.0.5");
-    QVERIFY(edit.setAddress(address) && edit.setAddress(address));
-    QVERIFY(edit.setAddress(QHostAddress("::ffff:10.0.0.5")));
-    QVERIFY(!edit.setAddress(QHostAddress("::1")));
-    QCOMPARE(edit.address(), address);
-    QCOMPARE(changes, 1);
-    QVERIFY(edit.setAddress(QHostAddress()));
-    QCOMPARE(edit.text(), QString());
-    QCOMPARE(changes, 2);
-}
-
 void tst_PYXAddressEdit::switchingTheProtocol()
 {
     PYXIPEdit edit;
     int changes = 0;
     connect(&edit, &PYXAddressEdit::si_addressChanged, [&] { ++changes; });
-    edit.setText("10.0.0.5");
+    const QHostAddress address("10.0.0.5");
+    QVERIFY(edit.setAddress(address) && edit.setAddress(QHostAddress("::ffff:10.0.0.5")));
+    QVERIFY(!edit.setAddress(QHostAddress("::1")) && edit.address() == address && changes == 1);
     const int narrow = edit.sizeHint().width();
     edit.setProtocol(QAbstractSocket::IPv6Protocol);
     QVERIFY(edit.text().isEmpty() && edit.sizeHint().width() > narrow);
     edit.setText("fd00:"); // not complete, and kept all the same
     edit.setProtocol(QAbstractSocket::IPv4Protocol);
-    QCOMPARE(edit.text(), QString("10.0.0.5"));
+    QVERIFY(edit.address() == address && edit.sizeHint().width() == narrow && changes == 3);
     edit.setProtocol(QAbstractSocket::UnknownNetworkLayerProtocol);
     QCOMPARE(edit.protocol(), QAbstractSocket::IPv4Protocol);
-    QCOMPARE(changes, 3);
     edit.setProtocol(QAbstractSocket::AnyIPProtocol);
-    QCOMPARE(edit.address(), QHostAddress("10.0.0.5"));
-    QVERIFY(edit.setAddress(QHostAddress("fd00::5")));
+    QVERIFY(edit.address() == address && edit.setAddress(QHostAddress("fd00::5")));
     edit.setProtocol(QAbstractSocket::IPv6Protocol);
-    QCOMPARE(edit.text(), QString("fd00::5"));
-    QCOMPARE(changes, 4);
+    QVERIFY(edit.text() == "fd00::5" && changes == 4);
+    QVERIFY(edit.setAddress(QHostAddress()) && edit.text().isEmpty() && changes == 5);
 }
 
 void tst_PYXAddressEdit::whatAScreenReaderSays()
@@ -189,9 +159,10 @@ void tst_PYXAddressEdit::whatAScreenReaderSays()
     QCOMPARE(accessibleText(*labelled, QAccessible::Name), QString("Station"));
     QCOMPARE(accessibleText(*alone, QAccessible::Name), QString("IP address"));
     const QString usual = accessibleText(*alone, QAccessible::Description);
+    const QSize size = alone->sizeHint();
     QVERIFY(usual.contains("IPv4") && !hasSign(*alone));
     alone->setText("10.0.");
-    QVERIFY(hasSign(*alone));
+    QVERIFY(hasSign(*alone) && alone->sizeHint() == size);
     QVERIFY(accessibleText(*alone, QAccessible::Description).startsWith("Not a complete address"));
     alone->setText("10.0.0.1");
     QVERIFY(!hasSign(*alone));

@@ -116,25 +116,16 @@ void tst_PYXNetworkEntryList::savedLayoutAndBack()
 {
     PYXSettings settings(PYXSettings::eUserApplicationSettings);
     QVERIFY(twoPeers().save(settings));
-    const QMap<QString, QString> layout = {
-        {"My/Interface", "10.0.0.1"},
-        {"My/DefaultEntryName", "South"},
-        {"My/Peers/size", "2"},
-        {"My/Peers/1/ItemName", "North, \"old\""},
-        {"My/Peers/1/ItemIP", "10.0.0.5"},
-        {"My/Peers/1/ItemPort", "8080"},
-        {"My/Peers/1/ItemUuid", Id.toString()},
-        {"My/Peers/1/Latitude", "48.123457"},
-        {"My/Peers/1/Longitude", "-11.500000"},
-        {"My/Peers/1/Altitude", "520.000000"},
-        {"My/Peers/2/ItemName", "South"},
-        {"My/Peers/2/ItemIP", "fe80::1"},
-        {"My/Peers/2/ItemPort", "65535"},
-        {"My/Peers/2/ItemUuid", QUuid().toString()},
-    };
-    QCOMPARE(settings.allKeys(true), layout.keys());
-    for (auto wanted = layout.cbegin(); wanted != layout.cend(); ++wanted)
-        QCOMPARE(settings.stringValue(wanted.key()), wanted.value());
+    QStringList layout;
+    for (const QString &key : settings.allKeys(true))
+        layout += key + '=' + settings.stringValue(key);
+    QCOMPARE(layout, QStringList({"My/DefaultEntryName=South", "My/Interface=10.0.0.1",
+                                  "My/Peers/1/Altitude=520.000000", "My/Peers/1/ItemIP=10.0.0.5",
+                                  "My/Peers/1/ItemName=North, \"old\"", "My/Peers/1/ItemPort=8080",
+                                  "My/Peers/1/ItemUuid=" + Id.toString(), "My/Peers/1/Latitude=48.123457",
+                                  "My/Peers/1/Longitude=-11.500000", "My/Peers/2/ItemIP=fe80::1",
+                                  "My/Peers/2/ItemName=South", "My/Peers/2/ItemPort=65535",
+                                  "My/Peers/2/ItemUuid=" + QUuid().toString(), "My/Peers/size=2"}));
     QCOMPARE(int(settings.QSettings::value("My/Peers/1/ItemPort").type()), int(QMetaType::UInt));
 
     PYXNetworkEntryList restored = emptyList();

@@ -4,7 +4,6 @@
 // Requests over loopback, through real proxies where they are installed: tinyproxy and microsocks.
 
 #include "PYXProxyManager.h"
-#include "PYXRuntime.h"
 #include "SettingsHome.h"
 
 #include <QtCore/QProcess>
@@ -18,6 +17,9 @@
 using namespace PYXRuntime;
 
 namespace {
+
+/** What a request ends in, from tinyproxy (it says 401) and from microsocks. */
+const char *const WrongPassword[] = {"AuthenticationRequiredError", "ProxyAuthenticationRequiredError"};
 
 /** Answers every request and keeps it. */
 class HttpServer : public QTcpServer
@@ -88,66 +90,38 @@ QString started(QProcess &process, const QString &program, const QStringList &ar
     return program + " does not start: " + process.readAll();
 }
 
+/** What the server sends, or the error. */
+QString fetched(const QUrl &url)
+{
+    QNetworkAccessManager manager;
+    const std::unique_ptr<QNetworkReply> reply(manager.get(QNetworkRequest(url)));
+    if (!QTest::qWaitFor([&reply] { return reply->isFinished(); }, 20000))
+        return "no answer";
+    return reply->error() == QNetworkReply::NoError ? QString(reply->readAll())
+                                                    : QVariant::fromValue(reply->error()).toString();
+}
+
 } // namespace
 
 class tst_ProxyEndToEnd : public QObject
 {
     Q_OBJECT
 private slots:
-    void initTestCase();
-    void cleanupTestCase();
     void throughProxy_data();
     void throughProxy();
-
-private:
-    /** What the server sends, or the error. */
-    QString fetched(const QUrl &url);
-
-    std::unique_ptr<SettingsHome> m_home;
-    QString m_ownName;
 };
-
-void tst_ProxyEndToEnd::initTestCase()
-{
-    m_home = std::make_unique<SettingsHome>();
-    m_ownName = ownName();
-    if (m_ownName.isEmpty())
-        QSKIP("no name leads to this host");
-    initialize_PYXRuntime(ekInitialize_NoFonts);
-}
-
-void tst_ProxyEndToEnd::cleanupTestCase()
-{
-    if (isInitialized_PYXRuntime())
-        uninitialize_PYXRuntime();
-}
-
-QString tst_ProxyEndToEnd::fetched(const QUrl &url)
-{
-    QNetworkAccessManager manager;
-    const std::unique_ptr<QNetworkReply> reply(manager.get(QNetworkRequest(url)));
-    if (!QTest::qWaitFor([&reply] { return reply->isFinished(); }, 20000))
-        return "no answer";
-    if (reply->error() != QNetworkReply::NoError)
-        return QVariant::fromValue(reply->error()).toString();
-    return reply->readAll();
-}
 
 void tst_ProxyEndToEnd::throughProxy_data()
 {
     QTest::addColumn<bool>("socks");
     QTest::addColumn<QString>("password"); // null: none is wanted; else the proxy wants "secret"
     QTest::addColumn<QString>("answer");
-    QTest::newRow("HTTP") << false << QString() << "hello";
-    QTest::newRow("HTTP, password") << false << "secret"
-                                    << "hello";
-    QTest::newRow("HTTP, wrong password") << false << "wrong"
-                                          << "AuthenticationRequiredError"; // it says 401
-    QTest::newRow("SOCKS") << true << QString() << "hello";
-    QTest::newRow("SOCKS, password") << true << "secret"
-                                     << "hello";
-    QTest::newRow("SOCKS, wrong password") << true << "wrong"
-                                           << "ProxyAuthenticationRequiredError";
+    for (const bool bSocks : {false, true}) {
+        const char *const name = bSocks ? "SOCKS" : "HTTP";
+        QTest::addRow("%s", name) << bSocks << QString() << "hello";
+        QTest::addRow("%s, password", name) << bSocks << "secret" << QString("hello");
+        QTest::addRow("%s, wrong password", name) << bSocks << "wrong" << QString(WrongPassword[bSocks]);
+    }
 }
 
 void tst_ProxyEndToEnd::throughProxy()
@@ -155,8 +129,12 @@ void tst_ProxyEndToEnd::throughProxy()
     QFETCH(bool, socks);
     QFETCH(QString, password);
     QFETCH(QString, answer);
+    static const QString name = ownName();
+    if (name.isEmpty())
+        QSKIP("no name leads to this host");
+    const SettingsHome home;
     const quint16 port = freePort();
-    QFile file(m_home->path("tinyproxy.conf"));
+    QFile file(home.path("tinyproxy.conf"));
     QVERIFY(file.open(QIODevice::WriteOnly));
     file.write("Listen 127.0.0.1\nTimeout 30\nViaProxyName \"under-test\"\nPort " + QByteArray::number(port));
     file.write(password.isNull() ? "\n" : "\nBasicAuth user secret\n");
@@ -183,7 +161,7 @@ void tst_ProxyEndToEnd::throughProxy()
     QByteArray log;
     // tinyproxy adds a header to the request, microsocks says where it connects to.
     const auto cameThrough = [&] {
-        const QString connected = QString("connected to %1:%2").arg(m_ownName).arg(server.serverPort());
+        const QString connected = QString("connected to %1:%2").arg(name).arg(server.serverPort());
         log += process.readAll();
         return socks ? log.contains(connected.toUtf8()) : server.request.contains("under-test");
     };
@@ -191,7 +169,7 @@ void tst_ProxyEndToEnd::throughProxy()
     QVERIFY(server.request.startsWith("GET /file ") && !cameThrough());
     QVERIFY(!log.contains("connected to"));
     server.request.clear();
-    QCOMPARE(fetched(server.url(m_ownName)), answer);
+    QCOMPARE(fetched(server.url(name)), answer);
     QTRY_COMPARE(cameThrough(), answer == "hello");
     QCOMPARE(server.request.isEmpty(), answer != "hello");
     QVERIFY(!server.request.contains("Proxy-Authorization"));
