@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "PYXMemoryPool.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QLibrary>
 
 #include <benchmark/benchmark.h>
@@ -10,6 +11,7 @@
 #include <cstddef>
 #include <cstdlib>
 #include <deque>
+#include <malloc.h>
 #include <memory>
 #include <memory_resource>
 #include <mutex>
@@ -277,6 +279,14 @@ BENCHMARK_TEMPLATE(framePipeline, GstPools)->Name("memory/frame pipeline/GStream
 
 int main(int argc, char **argv)
 {
+    QCoreApplication application(argc, argv); // the pool has a timer
+#ifdef M_TRIM_THRESHOLD
+    // What the heap of glibc arrives at by itself where frames of these sizes are all that is freed
+    // (mallopt(3), the dynamic threshold). It would follow the larger areas that other contestants free in
+    // this process.
+    mallopt(M_MMAP_THRESHOLD, int(LargestFrame + Page));
+    mallopt(M_TRIM_THRESHOLD, int(2 * (LargestFrame + Page)));
+#endif
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return 0;

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include "Platform.h"
 #include "PYXMemoryBlock.h"
 
 #include <atomic>
@@ -30,17 +29,7 @@ public:
     {}
 
     /** Stamps it with the time; the clock is not asked twice for the same millisecond. */
-    void stampHandOut()
-    {
-        const quint64 cycles = Platform::cycleCounter();
-        if (cycles - m_stampedAtCycle >= m_stampHoldsFor) {
-            const Platform::struUtcTime now = Platform::utcTime();
-            m_stamp = now.milliseconds;
-            m_stampedAtCycle = cycles;
-            m_stampHoldsFor = cycles != 0 ? now.cycles : 0;
-        }
-        m_allocatedAt = m_stamp;
-    }
+    void stampHandOut();
 
     MemoryPoolCore &core() const { return *m_core; }
     /** Whether it still has the area that it had when it was booked: blocks can be assigned to. */
