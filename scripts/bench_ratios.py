@@ -28,6 +28,10 @@ GOALS = {
     ("settings/sync", "KConfig"): 1.0,
     ("statushash/binary save", "QDataStream"): 1.3,
     ("statushash/binary restore", "QDataStream"): 1.3,
+    ("memory/acquire and release 64 KiB", "pmr"): 1.0,
+    ("memory/acquire and release 64 KiB", "pmr allocate_shared"): 1.0,
+    ("memory/frame pipeline", "pmr"): 1.2,
+    ("memory/frame pipeline", "malloc"): 0.2,
     ("network/receive 128 datagrams", "QUdpSocket"): 1.05,
 }
 DIFFERENCE_GOALS = {("startup/process", "bare QApplication"): 10.0}

@@ -57,7 +57,6 @@ private:
     friend class PooledBlock;
 
     PYXMemoryBlock(const AllocatorPointer &allocator, void *data, quint64 byteSize);
-    void _touchAllocatedAt();
 
     void *m_data;
     quint64 m_byteSize;

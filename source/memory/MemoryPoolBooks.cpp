@@ -101,6 +101,14 @@ MemoryPoolBooks::Areas MemoryPoolBooks::acquiredAreas() const
     return areas;
 }
 
+quint64 MemoryPoolBooks::laneHits() const
+{
+    quint64 hits = m_laneHits;
+    for (const PooledBlock *block : m_acquired)
+        hits += block->m_laneHits.load(std::memory_order_relaxed);
+    return hits;
+}
+
 std::unique_ptr<PooledBlock> MemoryPoolBooks::_takeFree(FreeBlocks::iterator at)
 {
     PooledBlock *const block = at->second;
@@ -133,6 +141,7 @@ void MemoryPoolBooks::_unbookAcquired(PooledBlock *block)
     last->m_acquiredIndex = block->m_acquiredIndex;
     m_acquired[block->m_acquiredIndex] = last;
     m_acquired.pop_back();
+    m_laneHits += block->m_laneHits.exchange(0, std::memory_order_relaxed);
 }
 
 void MemoryPoolBooks::_addBytes(quint64 byteSize)

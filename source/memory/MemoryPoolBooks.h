@@ -53,6 +53,8 @@ public:
     quint64 peakBytes() const { return m_peakBytes; }
     /** Of all blocks that have left the books. */
     quint64 removedBytes() const { return m_removedBytes; }
+    /** How often blocks were handed out past the books. */
+    quint64 laneHits() const;
     /** What acquiredCount() counts, the entries left behind included. */
     Areas acquiredAreas() const;
 
@@ -70,6 +72,7 @@ private:
     quint64 m_bytes = 0;
     quint64 m_peakBytes = 0;
     quint64 m_removedBytes = 0;
+    quint64 m_laneHits = 0; ///< of the blocks that are not handed out now
 };
 
 } // namespace PYXRuntime

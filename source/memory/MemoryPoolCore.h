@@ -13,6 +13,13 @@ namespace PYXRuntime {
 /**
  * What a pool and its blocks share, and the pool's lock. Each block keeps it alive, so a block can come back
  * at any time, also while the pool is being destroyed in another thread, or later. Any thread.
+ *
+ * A program that takes a block and lets it go again, over and over, would spend most of its time in the lock
+ * and the books. So there is a lane beside them, with room for one block of the size that was asked for last:
+ * a block that comes back is put down there, and taken up again, by one atomic step each. In the books it
+ * counts as handed out. Whoever has the lock first closes the lane and books what lies there as free, so to
+ * everything under the lock it never was elsewhere. The lane stays closed while a block that comes back has
+ * to be looked at: while somebody waits, above the bound, and after the pool's end.
  */
 class MemoryPoolCore final : public std::enable_shared_from_this<MemoryPoolCore>
 {
@@ -30,23 +37,29 @@ public:
     unsigned int preallocate(quint64 byteSize, unsigned int count);
     void purge(int ageSeconds);
     void setMaximum(quint32 maximum);
-    quint32 maximum() const;
-    PYXMemoryPool::struStatistics statistics() const;
+    quint32 maximum();
+    PYXMemoryPool::struStatistics statistics();
 
     /** The pool goes: wakes who waits, frees what is free. @return the blocks that are still out. */
     MemoryPoolBooks::Areas close();
 
 private:
     using Locker = std::unique_lock<std::mutex>;
-    using Guard = std::lock_guard<std::mutex>;
+    class LaneClosure;
 
+    PooledBlock *_takeFromLane(quint64 byteSize, PooledBlock *&misfit);
+    PooledBlock *_acquireLocked(quint64 byteSize, unsigned long timeoutMs, PooledBlock *misfit);
     PooledBlock *_tryAcquire(quint64 byteSize);
     bool _waitForReturn(Locker &locker, unsigned long timeoutMs);
     bool _announceReturn();
+    bool _isAboveBound() const { return m_maximum != 0 && m_books.poolSize() > m_maximum; }
     bool _hasRoom() const { return m_maximum == 0 || m_books.poolSize() < m_maximum; }
     std::unique_ptr<PooledBlock> _newBlock(quint64 byteSize);
 
-    mutable std::mutex m_mutex; ///< guards all that follows
+    std::atomic<PooledBlock *> m_lane;  ///< null: empty, or the mark of a closed lane; opened under the lock
+    std::atomic<quint64> m_laneSize{0}; ///< set under the lock
+
+    std::mutex m_mutex; ///< guards all that follows
     std::condition_variable m_waitCondition;
     MemoryPoolBooks m_books;
     AllocatorPointer m_allocator; ///< null once the pool is gone

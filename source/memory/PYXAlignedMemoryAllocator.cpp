@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "PYXAlignedMemoryAllocator.h"
 
+#include <cstddef>
 #include <limits>
 #include <new>
 
@@ -23,7 +24,7 @@ PYXAlignedMemoryAllocator::PYXAlignedMemoryAllocator(quint64 alignment)
 void *PYXAlignedMemoryAllocator::allocateMemory(quint64 byteSize)
 {
     // The operator rounds the size up to the alignment, and does not look whether it overflows.
-    if (byteSize > std::numeric_limits<std::size_t>::max() - LargestAlignment)
+    if (byteSize > std::numeric_limits<std::ptrdiff_t>::max() - LargestAlignment)
         return nullptr;
     return ::operator new(static_cast<std::size_t>(byteSize), std::align_val_t(m_alignment), std::nothrow);
 }

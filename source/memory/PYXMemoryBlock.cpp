@@ -50,9 +50,4 @@ QDateTime PYXMemoryBlock::allocatedAtUTC() const
     return QDateTime::fromMSecsSinceEpoch(m_allocatedAt, Qt::UTC);
 }
 
-void PYXMemoryBlock::_touchAllocatedAt()
-{
-    m_allocatedAt = QDateTime::currentMSecsSinceEpoch();
-}
-
 } // namespace PYXRuntime

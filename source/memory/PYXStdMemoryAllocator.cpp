@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "PYXStdMemoryAllocator.h"
 
+#include <cstddef>
 #include <cstdlib>
 #include <cstring>
 #include <limits>
@@ -10,7 +11,7 @@ namespace PYXRuntime {
 
 void *PYXStdMemoryAllocator::allocateMemory(quint64 byteSize)
 {
-    if (byteSize > std::numeric_limits<std::size_t>::max())
+    if (byteSize > std::numeric_limits<std::ptrdiff_t>::max())
         return nullptr;
     return std::malloc(static_cast<std::size_t>(byteSize));
 }

@@ -4,6 +4,7 @@
 
 #include "PYXMemoryBlock.h"
 
+#include <atomic>
 #include <cstddef>
 #include <map>
 #include <memory>
@@ -27,16 +28,28 @@ public:
         , m_core(std::move(core))
     {}
 
-    using PYXMemoryBlock::_touchAllocatedAt;
+    /** Stamps it with the time; the clock is not asked twice for the same millisecond. */
+    void stampHandOut();
 
     MemoryPoolCore &core() const { return *m_core; }
+    /** Whether it still has the area that it had when it was booked: blocks can be assigned to. */
+    bool isAsBooked() const { return m_bookedSize == byteSize() && m_bookedData == data(); }
+    /** Only its holder counts. */
+    void countLaneHit()
+    {
+        m_laneHits.store(m_laneHits.load(std::memory_order_relaxed) + 1, std::memory_order_relaxed);
+    }
     qint64 ageInSeconds(qint64 now) const { return (now - m_allocatedAt) / 1000; }
 
 private:
     friend class MemoryPoolBooks;
 
+    qint64 m_stamp = 0;
+    quint64 m_stampedAtCycle = 0;
+    quint64 m_stampHoldsFor = 0; ///< cycles
     quint64 m_bookedSize;
     const void *m_bookedData;
+    std::atomic<quint64> m_laneHits{0}; ///< that the books have not taken over yet
     std::size_t m_acquiredIndex = 0;
     FreeBlocks::node_type m_freeNode; ///< kept while handed out, so that coming back allocates nothing
     std::shared_ptr<MemoryPoolCore> m_core;

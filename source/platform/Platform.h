@@ -55,6 +55,17 @@ quint64 fileTimeNow();
 /** 1970-01-01 00:00:00 UTC as a FILETIME. */
 quint64 fileTimeOfUnixEpoch();
 
+/** The time as QDateTime tells it, and how long it is known to stay in the same millisecond. */
+struct struUtcTime
+{
+    qint64 milliseconds; ///< since 1970
+    quint64 cycles;      ///< of cycleCounter() that pass in this millisecond at least; 0 where not known
+};
+struUtcTime utcTime();
+
+/** A count of the processor that is read faster than a clock; 0 where there is none that is steady. */
+quint64 cycleCounter();
+
 /** The file name under which a shared library of this base name is looked for. */
 QString libraryFileName(const QString &baseName);
 

@@ -15,6 +15,9 @@ namespace PYXRuntime::Platform {
 namespace {
 
 constexpr qint64 NanosecondsPerSecond = 1'000'000'000;
+constexpr qint64 NanosecondsPerMillisecond = 1'000'000;
+// No processor of this family counts below 0.6 GHz.
+constexpr quint64 NanosecondsPerCycleAtMost = 2;
 constexpr quint64 FileTimeTicksPerSecond = 10'000'000;
 // Seconds from 1601-01-01 to 1970-01-01 (RFC 1305 counts 369 years with 89 leap days).
 constexpr quint64 SecondsFrom1601To1970 = (369ULL * 365 + 89) * 86400;
@@ -128,6 +131,24 @@ quint64 fileTimeNow()
 quint64 fileTimeOfUnixEpoch()
 {
     return SecondsFrom1601To1970 * FileTimeTicksPerSecond;
+}
+
+struUtcTime utcTime()
+{
+    timespec now = {};
+    clock_gettime(CLOCK_REALTIME, &now);
+    const qint64 left = NanosecondsPerMillisecond - now.tv_nsec % NanosecondsPerMillisecond;
+    return {qint64(now.tv_sec) * 1000 + now.tv_nsec / NanosecondsPerMillisecond,
+            quint64(left) / NanosecondsPerCycleAtMost};
+}
+
+quint64 cycleCounter()
+{
+#ifdef __x86_64__
+    return __builtin_ia32_rdtsc();
+#else
+    return 0;
+#endif
 }
 
 QString libraryFileName(const QString &baseName)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "Platform.h"
 
+#include <QtCore/QDateTime>
 #include <QtCore/QSettings>
 
 #include <cstdio>
@@ -121,6 +122,16 @@ quint64 fileTimeOfUnixEpoch()
     FILETIME fileTime = {};
     SystemTimeToFileTime(&epoch, &fileTime);
     return ticksOf(fileTime);
+}
+
+struUtcTime utcTime()
+{
+    return {QDateTime::currentMSecsSinceEpoch(), 0};
+}
+
+quint64 cycleCounter()
+{
+    return 0; // The clock is as fast.
 }
 
 QString libraryFileName(const QString &baseName)
