@@ -3,6 +3,7 @@
 
 // What a full disk does to counting file sets, on a small file system of the test's own.
 
+#include "FileSets.h"
 #include "PYXFileListImpl.h"
 #include "PYXSizeCountingFileSet.h"
 #include "RecordFile.h"
@@ -14,25 +15,7 @@
 #include <unistd.h>
 
 using namespace PYXRuntime;
-
-namespace {
-
-class NumberedSet : public PYXSizeCountingFileSet
-{
-protected:
-    QString _getNextFileName() override { return QString::number(++m_number); }
-
-private:
-    int m_number = 0;
-};
-
-QByteArray get(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-} // namespace
+using NumberedSet = Numbered<PYXSizeCountingFileSet>;
 
 class tst_FileSetFullDisk : public QObject
 {
@@ -103,9 +86,7 @@ void tst_FileSetFullDisk::losesAndDoublesNothing()
     QFETCH(quint64, maximum);
     QFETCH(bool, bFlush);
     auto *const list = PYXFileListImpl::getInstance();
-    NumberedSet set;
-    set.setBaseDirectory(m_mountPoint.path());
-    set.setMaximumWeightPerFile(maximum);
+    NumberedSet set(m_mountPoint.path(), maximum);
     set.setFlushAfterWriting(bFlush);
     set.setRegisterWrittenFiles(true);
     QVERIFY(set.open(QIODevice::WriteOnly));
@@ -139,9 +120,7 @@ void tst_FileSetFullDisk::losesAndDoublesNothing()
 
 void tst_FileSetFullDisk::tellsAtTheFlush()
 {
-    NumberedSet set;
-    set.setBaseDirectory(m_mountPoint.path());
-    set.setMaximumWeightPerFile(1'000'000);
+    NumberedSet set(m_mountPoint.path(), 1'000'000);
     QVERIFY(set.open(QIODevice::WriteOnly));
     const QSignalSpy spy(&set, &PYXCountingFileSet::si_writeError);
     fillDisk(0);
@@ -158,9 +137,7 @@ void tst_FileSetFullDisk::tellsAtTheFlush()
 void tst_FileSetFullDisk::takesTheRestToTheNextFile()
 {
     const QTemporaryDir other;
-    NumberedSet set;
-    set.setBaseDirectory(m_mountPoint.path());
-    set.setMaximumWeightPerFile(1'000'000);
+    NumberedSet set(m_mountPoint.path(), 1'000'000);
     QVERIFY(set.open(QIODevice::WriteOnly));
     fillDisk(4096);
     QCOMPARE(set.write(QByteArray(6000, 'a')), qint64(6000));
@@ -193,9 +170,7 @@ void tst_FileSetFullDisk::translatesLineEndsOnce()
 
 void tst_FileSetFullDisk::noticesRemovedFiles()
 {
-    NumberedSet set;
-    set.setBaseDirectory(m_mountPoint.path());
-    set.setMaximumWeightPerFile(1'000'000);
+    NumberedSet set(m_mountPoint.path(), 1'000'000);
     set.setFlushAfterWriting(true);
     QVERIFY(set.open(QIODevice::WriteOnly));
     const QSignalSpy spy(&set, &PYXCountingFileSet::si_writeError);

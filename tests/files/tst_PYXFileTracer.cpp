@@ -46,8 +46,6 @@ private Q_SLOTS:
     void keepsNoPassword_data();
     void keepsNoPassword();
     void holdsDebugBackUntilAnError();
-    void boundsWhatItHolds();
-    void flushesFromWarningsOn();
     void tellsWhatWasLost();
     void worksInAllThreads();
     void registersItsFiles();
@@ -131,40 +129,22 @@ void tst_PYXFileTracer::holdsDebugBackUntilAnError()
     start();
     for (int i = 0; i < 1003; ++i)
         PYXTraceWrapper::staticTraceDebug(QString::number(i), File, 1);
-    PYXTraceWrapper::staticTraceWarn("careful", File, 2);
-    QCOMPARE(lines(path()), QStringList("WARN source\\Test(2): careful"));
-    PYXTraceWrapper::staticTraceError("broken", File, 3);
-    PYXTraceWrapper::staticTraceError("again", File, 4);
-    const QStringList found = lines(path());
-    QCOMPARE(found.size(), 1 + 1 + 1000 + 1 + 2);
-    QCOMPARE(found[1], QString("---- 1000 debug traces from before the error:"));
-    QCOMPARE(found[2], QString("DEBUG source\\Test(1): 3"));
-    QCOMPARE(found[1001], QString("DEBUG source\\Test(1): 1002"));
-    QCOMPARE(found.mid(1003), QStringList({"ERROR source\\Test(3): broken", "ERROR source\\Test(4): again"}));
-}
-
-void tst_PYXFileTracer::boundsWhatItHolds()
-{
-    start();
     // Three bytes each, so that a cut at any byte would mostly fall within a character.
     PYXTraceWrapper::staticTraceDebug(QString(100'000, QChar(0x20AC)), File, 1);
-    PYXTraceWrapper::staticTraceError("broken", File, 2);
-    const QString line = lines(path()).value(1);
-    QVERIFY(line.toUtf8().size() <= 4096);
-    QVERIFY(line.toUtf8().size() > 4000);
-    QVERIFY(line.endsWith(QChar(0x20AC) + QString(" ...")));
-}
-
-void tst_PYXFileTracer::flushesFromWarningsOn()
-{
-    start();
-    PYXTraceWrapper::staticTraceInfo("waits", File, 1);
+    PYXTraceWrapper::staticTraceInfo("waits", File, 2);
     QCOMPARE(lines(path()), QStringList());
     PYXTraceWrapper::staticTraceWarn("hurries", File, 2);
     QCOMPARE(lines(path()).size(), 2);
-    PYXTraceWrapper::staticTraceInfo("waits", File, 1);
-    QVERIFY(m_tracer->flush());
-    QCOMPARE(lines(path()).size(), 3);
+    PYXTraceWrapper::staticTraceError("broken", File, 3);
+    PYXTraceWrapper::staticTraceError("again", File, 4);
+    const QStringList found = lines(path());
+    QCOMPARE(found.size(), 2 + 1 + 1000 + 1 + 2);
+    QCOMPARE(found[2], QString("---- 1000 debug traces from before the error:"));
+    QCOMPARE(found[3], QString("DEBUG source\\Test(1): 4"));
+    QCOMPARE(found[1001], QString("DEBUG source\\Test(1): 1002"));
+    QVERIFY(found[1002].toUtf8().size() > 4000 && found[1002].toUtf8().size() <= 4096);
+    QVERIFY(found[1002].endsWith(QChar(0x20AC) + QString(" ...")));
+    QCOMPARE(found.mid(1004), QStringList({"ERROR source\\Test(3): broken", "ERROR source\\Test(4): again"}));
 }
 
 void tst_PYXFileTracer::tellsWhatWasLost()
