@@ -46,7 +46,7 @@ function(pyx_add_test name)
         set(ARG_TIMEOUT 120)
     endif()
     set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT} ENVIRONMENT
-        "QT_QPA_PLATFORM=offscreen;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp;ASAN_OPTIONS=allocator_may_return_null=1;TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/tsan.supp halt_on_error=0;UBSAN_OPTIONS=halt_on_error=1 print_stacktrace=1")
+        "QT_QPA_PLATFORM=offscreen;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp;ASAN_OPTIONS=allocator_may_return_null=1;TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/tsan.supp halt_on_error=0 allocator_may_return_null=1;UBSAN_OPTIONS=halt_on_error=1 print_stacktrace=1")
     if(ARG_THREADS)
         set_property(TEST ${name} APPEND PROPERTY LABELS threads)
         if(NOT TARGET thread_tests)

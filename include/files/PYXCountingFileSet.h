@@ -115,6 +115,8 @@ protected:
 
     /** For subclasses that delete files: takes one off previousFilesPaths(). */
     void _forgetPreviousFile(const QString &path) { m_previousFilesPaths.removeOne(path); }
+    /** Writes to the runtime scope. */
+    void _debug(const QString &text) const;
     /** For sets whose messages nobody may hear, because they carry the messages themselves. */
     void _setSilent(bool bSilent) { m_bSilent = bSilent; }
 
@@ -126,10 +128,9 @@ private:
     bool _isReachedBy(quint64 weight) const;
     void _registerCurrentFile() const;
     bool _drain();
-    qint64 _accept(const char *data, qint64 size);
+    qint64 _finishWrite(const char *data, qint64 size, qint64 written);
     void _noteError(const QString &path, const QString &reason);
     void _reportError();
-    void _debug(const QString &text) const;
 
     QString m_baseDirectory;
     QString m_baseFileName;

@@ -155,11 +155,14 @@ qint64 PYXCountingFileSet::writeData(const char *data, qint64 size)
             return -1;
         }
     }
-    const qint64 written = _accept(data, size);
-    if (written < 0)
-        _reportError();
-    else
-        _checkWeight();
+    const qint64 written = m_currentFile->append(data, size);
+    const quint64 weight = _getWeightOfData(data, size, written);
+    const bool bPlain = written == size && !m_flushAfterWriting && m_error.isEmpty() &&
+                        !m_currentFile->isOverdue() &&
+                        m_weightOfCurrentFile + weight < m_maximumWeightPerFile;
+    if (!bPlain)
+        return _finishWrite(data, size, written);
+    m_weightOfCurrentFile += weight;
     return written;
 }
 
@@ -268,26 +271,27 @@ bool PYXCountingFileSet::_drain()
     return false;
 }
 
-/** Takes data in and counts it; what the system refuses of it at once is not taken. */
-qint64 PYXCountingFileSet::_accept(const char *data, qint64 size)
+/** The rest of a write after which there is more to do. What the system refuses of it at once is taken back.
+ */
+qint64 PYXCountingFileSet::_finishWrite(const char *data, qint64 size, qint64 written)
 {
-    qint64 written = m_currentFile->append(data, size);
     quint64 weight = _getWeightOfData(data, size, written);
-    if (written == size && (m_flushAfterWriting || _isReachedBy(weight) || m_currentFile->isOverdue()) &&
-        !m_currentFile->drain()) {
+    const bool bDrain = m_flushAfterWriting || _isReachedBy(weight) || m_currentFile->isOverdue();
+    if (written == size && bDrain && !m_currentFile->drain()) {
         written -= m_currentFile->takeBack(size);
         weight = _getWeightOfData(data, size, written);
     }
-    if (written == size) {
+    if (written != size)
+        _noteError(m_currentFilePath, m_currentFile->errorString());
+    if (written > 0 || size == 0) {
         m_weightOfCurrentFile += weight;
+        _checkWeight();
         return written;
     }
-    _noteError(m_currentFilePath, m_currentFile->errorString());
-    if (written > 0)
-        m_weightOfCurrentFile += weight;
-    else if (m_currentFile->isRemoved())
+    if (m_currentFile->isRemoved())
         _closeCurrentFile();
-    return written > 0 ? written : -1;
+    _reportError();
+    return -1;
 }
 
 void PYXCountingFileSet::_noteError(const QString &path, const QString &reason)

@@ -2,15 +2,13 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "RecordFile.h"
 
-#include "Platform.h"
-
 #include <QtCore/QCoreApplication>
 
 namespace PYXRuntime {
 namespace {
 
-constexpr int BufferSize = 16 * 1024;
-constexpr quint64 LongestPendingMs = 1000;
+// How long what is written to a removed file may go unnoticed; each look takes a system call.
+constexpr quint64 LookIntervalMs = 100;
 
 } // namespace
 
@@ -26,65 +24,64 @@ bool RecordFile::create(OpenMode mode)
     return open(mode | Unbuffered);
 }
 
-qint64 RecordFile::append(const char *data, qint64 size)
-{
-    if (m_pending.size() + size > BufferSize && !drain())
-        return -1;
-    if (size >= BufferSize) {
-        // Nothing is pending now.
-        return m_bRemoved ? -1 : _put(data, size);
-    }
-    if (m_pending.isEmpty()) {
-        m_pending.reserve(BufferSize);
-        m_pendingSince = Platform::tickMilliseconds();
-    }
-    m_pending.append(data, static_cast<int>(size));
-    return size;
-}
-
 bool RecordFile::drain()
 {
-    if (m_pending.isEmpty())
+    if (m_pendingSize == 0)
         return true;
-    const qint64 written = _put(m_pending.constData(), m_pending.size());
-    if (written == m_pending.size()) {
-        m_pending.resize(0);
-        return true;
-    }
-    m_pending.remove(0, static_cast<int>(qMax<qint64>(written, 0)));
-    return false;
-}
-
-bool RecordFile::isOverdue() const
-{
-    return Platform::tickMilliseconds() - m_pendingSince > LongestPendingMs;
+    const qint64 written = qMax<qint64>(_put(m_buffer.get(), m_pendingSize), 0);
+    m_pendingSize -= written;
+    if (m_pendingSize > 0)
+        std::memmove(m_buffer.get(), m_buffer.get() + written, static_cast<std::size_t>(m_pendingSize));
+    return m_pendingSize == 0;
 }
 
 qint64 RecordFile::takeBack(qint64 size)
 {
-    const int taken = static_cast<int>(qMin<qint64>(size, m_pending.size()));
-    m_pending.chop(taken);
+    const qint64 taken = qMin(size, m_pendingSize);
+    m_pendingSize -= taken;
     return taken;
 }
 
 QByteArray RecordFile::takePending()
 {
-    QByteArray pending;
-    pending.swap(m_pending);
+    const QByteArray pending(m_buffer.get(), static_cast<int>(m_pendingSize));
+    m_pendingSize = 0;
     return pending;
 }
 
 void RecordFile::putPending(const QByteArray &bytes)
 {
-    m_pending = bytes;
-    m_pendingSince = Platform::tickMilliseconds();
+    _appendToFull(bytes.constData(), qMin<qint64>(bytes.size(), BufferSize - 1));
+}
+
+/** What append() does where the buffer has no room, or nothing in it yet. */
+qint64 RecordFile::_appendToFull(const char *data, qint64 size)
+{
+    if (size > BufferSize - m_pendingSize && !drain())
+        return -1;
+    if (size >= BufferSize)
+        return _put(data, size);
+    if (m_buffer == nullptr)
+        m_buffer = std::make_unique<char[]>(BufferSize);
+    m_pendingSince = m_now;
+    _buffer(data, size);
+    return size;
+}
+
+bool RecordFile::_isGone()
+{
+    const quint64 now = Platform::tickMilliseconds();
+    if (!m_bRemoved && now - m_lookedAt > LookIntervalMs) {
+        m_bRemoved = Platform::isFileRemoved(handle());
+        m_lookedAt = now;
+    }
+    return m_bRemoved;
 }
 
 /** @return how many bytes are written, fewer than given or -1 only where the system takes no more. */
 qint64 RecordFile::_put(const char *data, qint64 size)
 {
-    m_bRemoved = m_bRemoved || Platform::isFileRemoved(handle());
-    if (m_bRemoved) {
+    if (_isGone()) {
         setErrorString(QCoreApplication::translate("PYXRuntime::PYXCountingFileSet", "The file is gone."));
         return -1;
     }

@@ -6,8 +6,10 @@
 
 #include <QtCore/QRegularExpression>
 #include <QtCore/QUrl>
+#include <QtCore/QVarLengthArray>
 
 #include <algorithm>
+#include <cstring>
 
 namespace PYXRuntime::SecretFinder {
 namespace {
@@ -19,6 +21,14 @@ bool hasSecretWord(const QString &text)
 {
     return std::any_of(std::begin(Words), std::end(Words), [&text](const char *word) {
         return text.contains(QLatin1String(word), Qt::CaseInsensitive);
+    });
+}
+
+bool beginsWithSecretWord(const char *letters, int size)
+{
+    return std::any_of(std::begin(Words), std::end(Words), [letters, size](const char *word) {
+        return *word == *letters && std::strlen(word) <= std::size_t(size) &&
+               std::memcmp(letters, word, std::strlen(word)) == 0;
     });
 }
 
@@ -71,10 +81,25 @@ bool hashHoldsSecret(const PYXStatusHash &hash)
 
 } // namespace
 
+// Names of settings and of what is traced are Latin mostly: for these neither a pattern nor folding is
+// needed.
 bool isSecretName(const QString &key)
 {
     static const QRegularExpression separators(QStringLiteral("[-_. ]"));
-    return hasSecretWord(QString(key).remove(separators));
+    QVarLengthArray<char, 64> letters;
+    for (const QChar character : key) {
+        const ushort code = character.unicode();
+        if (code >= 0x80)
+            return hasSecretWord(QString(key).remove(separators));
+        if (code != '-' && code != '_' && code != '.' && code != ' ')
+            letters.append(code >= 'A' && code <= 'Z' ? static_cast<char>(code + ('a' - 'A'))
+                                                      : static_cast<char>(code));
+    }
+    for (int at = 0; at < letters.size(); ++at) {
+        if (beginsWithSecretWord(letters.constData() + at, letters.size() - at))
+            return true;
+    }
+    return false;
 }
 
 bool holdsSecret(const QVariant &value)

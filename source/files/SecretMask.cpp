@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 The PYXRuntime developers
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "SecretMask.h"
+
+#include "SecretFinder.h"
+
+#include <QtCore/QRegularExpression>
+
+namespace PYXRuntime {
+namespace {
+
+const QLatin1String Mask("***");
+constexpr int LongestName = 64;
+
+bool isSeparator(QChar character)
+{
+    return character == QLatin1Char('=') || character == QLatin1Char(':') || character == QLatin1Char('|');
+}
+
+bool isNameCharacter(QChar character)
+{
+    return character.isLetterOrNumber() || character == QLatin1Char('_') || character == QLatin1Char('-') ||
+           character == QLatin1Char('.');
+}
+
+/** Whether what stands before the separator names a secret. */
+bool followsSecretName(const QString &text, int separator)
+{
+    int end = separator;
+    while (end > 0 && !isNameCharacter(text.at(end - 1)) && !isSeparator(text.at(end - 1)))
+        --end;
+    int begin = end;
+    while (begin > 0 && end - begin < LongestName && isNameCharacter(text.at(begin - 1)))
+        --begin;
+    return begin < end && SecretFinder::isSecretName(text.mid(begin, end - begin));
+}
+
+QString withoutUrlPasswords(QString text)
+{
+    static const QRegularExpression password(QStringLiteral("(://[^/?#\\s:@]*:)\\S*@"));
+    return text.replace(password, QLatin1String("\\1***@"));
+}
+
+} // namespace
+
+QString withoutSecrets(const QString &text)
+{
+    bool bHasUrl = false;
+    for (int at = 0; at < text.size(); ++at) {
+        if (!isSeparator(text.at(at)))
+            continue;
+        if (followsSecretName(text, at)) {
+            const QString kept = text.left(at + 1) + Mask;
+            return bHasUrl ? withoutUrlPasswords(kept) : kept;
+        }
+        bHasUrl = bHasUrl || text.midRef(at, 3) == QLatin1String("://");
+    }
+    return bHasUrl ? withoutUrlPasswords(text) : text;
+}
+
+} // namespace PYXRuntime
