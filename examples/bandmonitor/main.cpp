@@ -7,8 +7,10 @@
 
 #include <PYXApplicationInfoImpl.h>
 #include <PYXBroker.h>
+#include <PYXFileTracer.h>
 #include <PYXRuntime.h>
 #include <PYXRuntimeCenter.h>
+#include <PYXTraceWrapper.h>
 
 #include <QtCore/QCommandLineParser>
 #include <QtCore/QLocale>
@@ -95,6 +97,36 @@ int runHeadless(const QString &path)
     return 0;
 }
 
+/** What the program traces while the user works with it, for those who are asked for help. */
+class TraceFile final
+{
+    Q_DISABLE_COPY(TraceFile)
+public:
+    TraceFile()
+        : m_tracer(
+              {logsDirectory(), QStringLiteral("bandmonitor.txt"), MaximumBytes, MaximumFiles, tr("Trace")})
+    {
+        if (m_tracer.open())
+            PYXRuntime::PYXTraceWrapper::addTracer(&m_tracer);
+        else
+            print(stderr, tr("bandmonitor: No trace file can be written: %1\n").arg(m_tracer.errorString()));
+    }
+    ~TraceFile() { PYXRuntime::PYXTraceWrapper::removeTracer(&m_tracer); }
+
+private:
+    static constexpr quint64 MaximumBytes = 1024 * 1024;
+    static constexpr int MaximumFiles = 10;
+
+    static QString logsDirectory()
+    {
+        using PYXRuntime::PYXIApplicationInfo;
+        auto *const info = PYXRuntime::PYXBroker::getInstance()->topObject<PYXIApplicationInfo>();
+        return info->getSpecialDirPath(PYXIApplicationInfo::eApplicationLogsDir, true);
+    }
+
+    PYXRuntime::PYXFileTracer m_tracer;
+};
+
 int saveScreenshot(MainWindow &window, const QString &path)
 {
     QCoreApplication::processEvents(); // lays the window out and reads the configuration of the scopes
@@ -108,6 +140,9 @@ int saveScreenshot(MainWindow &window, const QString &path)
 
 int runWindow(const QCommandLineParser &parser, const QString &path)
 {
+    std::unique_ptr<TraceFile> traceFile;
+    if (!parser.isSet(ScreenshotOption))
+        traceFile = std::make_unique<TraceFile>();
     MainWindow window;
     if (!parser.isSet(ScreenshotOption))
         window.restoreSettings();
