@@ -11,7 +11,6 @@
 #include <cstddef>
 #include <cstdlib>
 #include <deque>
-#include <malloc.h>
 #include <memory>
 #include <memory_resource>
 #include <mutex>
@@ -258,6 +257,11 @@ void framePipeline(benchmark::State &state)
     state.SetItemsProcessed(frames);
 }
 
+#ifdef PYX_BENCH_HEAP_ALONE
+// In a process of its own: what other contestants leave in the heap changes when it asks the system for
+// memory.
+BENCHMARK_TEMPLATE(framePipeline, Heap)->Name("memory/frame pipeline/malloc")->UseRealTime();
+#else
 BENCHMARK_TEMPLATE(acquireAndRelease, PyxPool)->Name("memory/acquire and release 64 KiB/PYXMemoryPool");
 BENCHMARK_TEMPLATE(acquireAndRelease, PmrPool)->Name("memory/acquire and release 64 KiB/pmr");
 BENCHMARK_TEMPLATE(acquireAndRelease, PmrAllocateShared)
@@ -265,7 +269,6 @@ BENCHMARK_TEMPLATE(acquireAndRelease, PmrAllocateShared)
 BENCHMARK_TEMPLATE(acquireAndRelease, Heap)->Name("memory/acquire and release 64 KiB/malloc");
 BENCHMARK_TEMPLATE(framePipeline, PyxPool)->Name("memory/frame pipeline/PYXMemoryPool")->UseRealTime();
 BENCHMARK_TEMPLATE(framePipeline, PmrPool)->Name("memory/frame pipeline/pmr")->UseRealTime();
-BENCHMARK_TEMPLATE(framePipeline, Heap)->Name("memory/frame pipeline/malloc")->UseRealTime();
 #ifdef PYX_MIMALLOC_LIBRARY
 BENCHMARK_TEMPLATE(acquireAndRelease, Mimalloc)->Name("memory/acquire and release 64 KiB/mimalloc");
 BENCHMARK_TEMPLATE(framePipeline, Mimalloc)->Name("memory/frame pipeline/mimalloc")->UseRealTime();
@@ -274,19 +277,13 @@ BENCHMARK_TEMPLATE(framePipeline, Mimalloc)->Name("memory/frame pipeline/mimallo
 BENCHMARK_TEMPLATE(acquireAndRelease, GstPools)->Name("memory/acquire and release 64 KiB/GStreamer");
 BENCHMARK_TEMPLATE(framePipeline, GstPools)->Name("memory/frame pipeline/GStreamer")->UseRealTime();
 #endif
+#endif
 
 } // namespace
 
 int main(int argc, char **argv)
 {
     QCoreApplication application(argc, argv); // the pool has a timer
-#ifdef M_TRIM_THRESHOLD
-    // What the heap of glibc arrives at by itself where frames of these sizes are all that is freed
-    // (mallopt(3), the dynamic threshold). It would follow the larger areas that other contestants free in
-    // this process.
-    mallopt(M_MMAP_THRESHOLD, int(LargestFrame + Page));
-    mallopt(M_TRIM_THRESHOLD, int(2 * (LargestFrame + Page)));
-#endif
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     return 0;

@@ -12,7 +12,7 @@ namespace PYXRuntime {
 namespace {
 
 // The heap keeps what is freed for later; less than this is not worth asking it.
-constexpr quint64 BytesWorthReturning = 4 * 1024 * 1024;
+constexpr quint64 BytesWorthReturning = quint64(4) * 1024 * 1024;
 
 // Longer waits are without limit: 23 days, and no clock's type overflows.
 constexpr unsigned long LongestTimeoutMs = 2'000'000'000;

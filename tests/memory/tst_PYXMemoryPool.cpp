@@ -71,18 +71,10 @@ quint64 work(PYXMemoryPool &pool, Exchange &exchange, unsigned seed)
     return got;
 }
 
-/** Areas whose addresses are known. */
-class FixedAllocator : public PYXStdMemoryAllocator
-{
-public:
-    void *allocateMemory(quint64 byteSize) override { return reinterpret_cast<void *>(0xabc0 + byteSize); }
-    void freeMemory(void *) override {}
-};
-
 int reportProbe()
 {
     PYXMemoryPool(nullptr).acquire(1, 0); // comes back: nothing to report
-    auto pool = std::make_unique<PYXMemoryPool>(QSharedPointer<FixedAllocator>::create());
+    auto pool = std::make_unique<PYXMemoryPool>(nullptr);
     Blocks blocks = acquireAll(*pool, {8, 5});
     pool->setMaximumPoolSize(1);
     blocks.removeFirst(); // destroyed, but left behind in the books
@@ -289,14 +281,11 @@ void tst_PYXMemoryPool::reportsWhatIsOut()
 {
     const ChildResult result = runOwnProbe("report");
     QCOMPARE(result.exitCode, 0);
-    QStringList lines = result.errors.split('\n', Qt::SkipEmptyParts);
-    QCOMPARE(
-        lines.mid(0, 2),
-        QStringList({"PYXMemoryPool: there are still 2 block(s) acquired",
-                     "PYXMemoryPool: the blocks will be deleted when the last reference goes out of scope"}));
-    lines.sort();
-    QCOMPARE(lines.mid(0, 2),
-             QStringList({"\t 5 bytes at 0x000000000000abc5", "\t 8 bytes at 0x000000000000abc8"}));
+    const QRegularExpression expected(
+        "^PYXMemoryPool: there are still 2 block\\(s\\) acquired\n"
+        "PYXMemoryPool: the blocks will be deleted when the last reference goes out of scope\n"
+        "\t 8 bytes at 0x(?!0{16})[0-9a-f]{16}\n\t 5 bytes at 0x[0-9a-f]{16}\n$");
+    QVERIFY2(expected.match(result.errors).hasMatch(), qPrintable(result.errors));
 }
 
 void tst_PYXMemoryPool::booksComeOutEven_data()
