@@ -315,11 +315,14 @@ void PYXCountingFileSet::_debug(const QString &text) const
     const uint scope = PYXRuntimeCenter::isEnabled_pyxDebug(s_libraryScope) ? s_libraryScope : s_classScope;
     if (m_bSilent || !PYXRuntimeCenter::isEnabled_pyxDebug(scope))
         return;
+    // While the set is destroyed, that is this class.
+    // NOLINTNEXTLINE(clang-analyzer-optin.cplusplus.VirtualCall)
+    const QLatin1String className(metaObject()->className());
     const QString name = objectName().isEmpty() ? QStringLiteral("<unnamed>") : objectName();
     const QString address = QString::number(reinterpret_cast<quintptr>(this), 16);
-    PYXRuntimeCenter::pyxDebug(scope, QStringLiteral("%1(%2)[0x%3]: %4")
-                                          .arg(QLatin1String(metaObject()->className()), name,
-                                               address.rightJustified(8, QLatin1Char('0')), text));
+    PYXRuntimeCenter::pyxDebug(scope,
+                               QStringLiteral("%1(%2)[0x%3]: %4")
+                                   .arg(className, name, address.rightJustified(8, QLatin1Char('0')), text));
 }
 
 } // namespace PYXRuntime

@@ -84,7 +84,7 @@ quint64 PYXRetainingFileSet::_getWeightOfData(const char *data, qint64, qint64 w
 QString PYXRetainingFileSet::_getNextFileName()
 {
     bool bTaken = false;
-    const QString name = _takeName(bTaken);
+    QString name = _takeName(bTaken);
     // Where the new file cannot be, the old ones stay.
     if (bTaken && (m_maximumNumberOfFiles > 0 || m_maximumSizeOfFiles > 0))
         _deleteOldFiles(name);

@@ -44,19 +44,24 @@ qint64 RecordFile::takeBack(qint64 size)
 
 QByteArray RecordFile::takePending()
 {
-    const QByteArray pending(m_buffer.get(), static_cast<int>(m_pendingSize));
+    QByteArray pending(m_buffer.get(), static_cast<int>(m_pendingSize));
     m_pendingSize = 0;
     return pending;
 }
 
 void RecordFile::putPending(const QByteArray &bytes)
 {
-    _appendToFull(bytes.constData(), qMin<qint64>(bytes.size(), BufferSize - 1));
+    if (bytes.isEmpty())
+        return;
+    m_buffer = std::make_unique<char[]>(BufferSize);
+    _buffer(bytes.constData(), qMin<qint64>(bytes.size(), BufferSize));
 }
 
 /** What append() does where the buffer has no room, or nothing in it yet. */
-qint64 RecordFile::_appendToFull(const char *data, qint64 size)
+qint64 RecordFile::_appendSlowly(const char *data, qint64 size)
 {
+    if (size == 0)
+        return 0;
     if (size > BufferSize - m_pendingSize && !drain())
         return -1;
     if (size >= BufferSize)

@@ -23,7 +23,7 @@ class RecordFile final : public QFile
 public:
     /** @param bTranslateLineEnds writes "\r\n" for "\n" */
     RecordFile(const QString &path, bool bTranslateLineEnds);
-    /** What is still pending is lost: see close(). */
+    /** What is still pending is lost. */
     ~RecordFile() override;
 
     bool create(OpenMode mode);
@@ -31,8 +31,8 @@ public:
     qint64 append(const char *data, qint64 size)
     {
         m_now = Platform::tickMilliseconds();
-        if (size > BufferSize - m_pendingSize || m_pendingSize == 0)
-            return _appendToFull(data, size);
+        if (size > BufferSize - m_pendingSize || m_pendingSize == 0 || size == 0)
+            return _appendSlowly(data, size);
         _buffer(data, size);
         return size;
     }
@@ -50,15 +50,16 @@ public:
     bool isRemoved() const { return m_bRemoved; }
 
 private:
-    static constexpr qint64 BufferSize = 64 * 1024;
+    static constexpr qint64 BufferSize = 65'536;
     static constexpr quint64 LongestPendingMs = 1000;
 
+    /** There must be room, and a buffer. */
     void _buffer(const char *data, qint64 size)
     {
         std::memcpy(m_buffer.get() + m_pendingSize, data, static_cast<std::size_t>(size));
         m_pendingSize += size;
     }
-    qint64 _appendToFull(const char *data, qint64 size);
+    qint64 _appendSlowly(const char *data, qint64 size);
     bool _isGone();
     qint64 _put(const char *data, qint64 size);
     qint64 _putText(const char *data, qint64 size);

@@ -101,7 +101,7 @@ void LastLines::add(const QByteArray &line)
 
 QByteArray LastLines::takeOldest()
 {
-    const QByteArray line = m_lines.front();
+    QByteArray line = m_lines.front();
     m_lines.pop_front();
     return line;
 }
