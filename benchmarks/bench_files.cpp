@@ -19,7 +19,7 @@ using namespace PYXRuntime;
 namespace {
 
 // All contestants begin a file anew after as many bytes, so that they have the same pages to get and to free.
-constexpr qint64 BytesPerFile = 32 * 1024 * 1024;
+constexpr qint64 BytesPerFile = qint64(32) * 1024 * 1024;
 
 const QByteArray &block()
 {

@@ -13,8 +13,8 @@
 namespace BandMonitor {
 namespace {
 
-constexpr int TimeoutMs = 30'000;          // without a single byte
-constexpr qint64 BufferSize = 1024 * 1024; // in bytes: a slow disk slows the network down
+constexpr int TimeoutMs = 30'000;            // without a single byte
+constexpr qint64 BufferSize = 1024LL * 1024; // in bytes: a slow disk slows the network down
 
 } // namespace
 

@@ -80,7 +80,7 @@ void SnippetWriter::write(const Sample *samples, std::size_t count)
     }
     if (Q_BYTE_ORDER == Q_BIG_ENDIAN)
         qToLittleEndian<float>(m_values.data(), qsizetype(m_values.size()), m_values.data());
-    const auto size = qint64(m_values.size() * sizeof(float));
+    const auto size = qint64(m_values.size()) * qint64(sizeof(float));
     if (m_files.write(reinterpret_cast<const char *>(m_values.data()), size) != size)
         m_missing = 0; // a snippet with a hole is none
 }

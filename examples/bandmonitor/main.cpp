@@ -114,7 +114,7 @@ public:
     ~TraceFile() { PYXRuntime::PYXTraceWrapper::removeTracer(&m_tracer); }
 
 private:
-    static constexpr quint64 MaximumBytes = 1024 * 1024;
+    static constexpr quint64 MaximumBytes = 1024ULL * 1024;
     static constexpr int MaximumFiles = 10;
 
     static QString logsDirectory()

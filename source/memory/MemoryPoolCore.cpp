@@ -243,25 +243,29 @@ PYXMemoryPool::struStatistics MemoryPoolCore::statistics()
     return statistics;
 }
 
-MemoryPoolBooks::Areas MemoryPoolCore::close()
+MemoryPoolBooks::Areas MemoryPoolCore::close(MemoryPoolBooks::Blocks &free)
 {
-    MemoryPoolBooks::Areas acquired;
     AllocatorPointer allocator;
+    const Locker locker(m_mutex);
+    const LaneClosure closure(*this);
+    MemoryPoolBooks::Areas acquired = m_books.acquiredAreas();
+    free = m_books.takeAllFree();
+    allocator.swap(m_allocator);
+    if (_announceReturn())
+        m_waitCondition.notify_all();
+    return acquired;
+}
+
+void MemoryPoolCore::destroy(MemoryPoolBooks::Blocks &free)
+{
+    free.clear();
     quint64 freed = 0;
     {
-        MemoryPoolBooks::Blocks free;
         const Locker locker(m_mutex);
-        const LaneClosure closure(*this);
-        acquired = m_books.acquiredAreas();
-        free = m_books.takeAllFree();
         freed = m_books.removedBytes() - m_returnedBytes;
-        allocator.swap(m_allocator);
-        if (_announceReturn())
-            m_waitCondition.notify_all();
     }
     if (freed >= BytesWorthReturning)
         Platform::returnFreedMemory();
-    return acquired;
 }
 
 } // namespace PYXRuntime

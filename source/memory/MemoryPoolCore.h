@@ -40,8 +40,10 @@ public:
     quint32 maximum();
     PYXMemoryPool::struStatistics statistics();
 
-    /** The pool goes: wakes who waits, frees what is free. @return the blocks that are still out. */
-    MemoryPoolBooks::Areas close();
+    /** The pool goes: wakes who waits. @param free gets the free blocks @return the blocks that are out. */
+    MemoryPoolBooks::Areas close(MemoryPoolBooks::Blocks &free);
+    /** Destroys what close() has given away, and sees to it that the memory goes back to the system. */
+    void destroy(MemoryPoolBooks::Blocks &free);
 
 private:
     using Locker = std::unique_lock<std::mutex>;

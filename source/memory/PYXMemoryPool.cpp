@@ -53,9 +53,11 @@ PYXMemoryPool::PYXMemoryPool(const QSharedPointer<Interfaces::IPYXMemoryAllocato
 
 PYXMemoryPool::~PYXMemoryPool()
 {
-    const MemoryPoolBooks::Areas acquired = m_core->close();
+    MemoryPoolBooks::Blocks free;
+    const MemoryPoolBooks::Areas acquired = m_core->close(free);
     if (!acquired.empty())
         report(acquired);
+    m_core->destroy(free);
 }
 
 QSharedPointer<PYXMemoryBlock> PYXMemoryPool::acquire(quint64 byteSize, unsigned long timeoutMs)
