@@ -3,7 +3,7 @@
 # SPDX-License-Identifier: LGPL-3.0-or-later
 #
 # run-tidy.sh [BASE|--all]: clang-tidy on the C++ files that changed since the commit BASE, committed or not.
-# Without BASE: since the branch left origin/main; on main itself, since a day before its last commit.
+# Without BASE: since the branch left origin/main; on main itself, since four hours before its last commit.
 # A changed header stands for the source of its name; a changed .clang-tidy for every file.
 #   PYX_JOBS   how many jobs at a time (default: one per processor)
 set -euo pipefail
@@ -15,7 +15,7 @@ default_base() {
     local base
     base=$(git merge-base origin/main HEAD 2>/dev/null || true)
     if [ -z "$base" ] || [ "$base" = "$(git rev-parse HEAD)" ]; then
-        base=$(git rev-list -1 --before="$(($(git log -1 --format=%ct) - 86400))" HEAD)
+        base=$(git rev-list -1 --before="$(($(git log -1 --format=%ct) - 14400))" HEAD)
     fi
     echo "$base"
 }

@@ -78,16 +78,16 @@ public:
 private:
     QString m_name;
     QHostAddress m_address;
-    quint16 m_port = 0;
     QUuid m_uuid;
-    bool m_bHasGeoPosition = false;
     double m_latitude = 0.0;
     double m_longitude = 0.0;
     double m_altitude = 0.0;
-    bool m_bHasDirection = false;
-    bool m_bUseDirection = false;
     double m_azimuth = 0.0;
     double m_beamWidth = 0.0;
+    quint16 m_port = 0;
+    bool m_bHasGeoPosition = false;
+    bool m_bHasDirection = false;
+    bool m_bUseDirection = false;
 };
 
 } // namespace PYXRuntime

@@ -16,8 +16,8 @@ PYXNetworkEntry::PYXNetworkEntry(const QString &name, const QHostAddress &addres
                                  const QUuid &uuid)
     : m_name(name)
     , m_address(address)
-    , m_port(port)
     , m_uuid(uuid)
+    , m_port(port)
 {}
 
 void PYXNetworkEntry::setGeoPosition(double latitude, double longitude, double altitude)

@@ -25,12 +25,10 @@ public:
             QTcpSocket *const socket = nextPendingConnection();
             connect(socket, &QTcpSocket::readyRead, socket, [socket] {
                 const QByteArray request = socket->readAll();
-                if (request.startsWith("GET /good"))
-                    socket->write(head("200 OK") + Content);
-                else if (request.startsWith("GET /private") && !request.contains("Authorization: Basic dTpw"))
+                if (request.startsWith("GET /private") && !request.contains("Authorization: Basic dTpw"))
                     socket->write("HTTP/1.1 401 No\r\nWWW-Authenticate: Basic realm=\"r\"\r\n"
                                   "Content-Length: 0\r\n\r\n");
-                else if (request.startsWith("GET /private"))
+                else if (request.startsWith("GET /good") || request.startsWith("GET /private"))
                     socket->write(head("200 OK") + Content);
                 else if (request.startsWith("GET /cut"))
                     socket->write(head("200 OK") + Content.left(1000));

@@ -174,6 +174,7 @@ void tst_PYXFileTracer::worksInAllThreads()
     PYXRuntimeCenter::setEnabled_pyxDebugToTrace(true);
     start(5000);
     std::vector<std::thread> threads;
+    threads.reserve(Threads);
     for (int thread = 0; thread < Threads; ++thread) {
         threads.emplace_back([this, thread] {
             for (int i = 0; i < LinesEach; ++i) {

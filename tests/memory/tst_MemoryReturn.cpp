@@ -29,7 +29,7 @@ qint64 residentBytes()
 /** Blocks of the sizes of frames, every page of them touched. */
 QVector<QSharedPointer<PYXMemoryBlock>> filled(PYXMemoryPool &pool, qint64 bytes)
 {
-    constexpr quint64 sizes[] = {300 * 1024, 512 * 1024, 700 * 1024, 1024 * 1024};
+    constexpr quint64 sizes[] = {300 * 1024ULL, 512 * 1024ULL, 700 * 1024ULL, 1024 * 1024ULL};
     QVector<QSharedPointer<PYXMemoryBlock>> blocks;
     for (std::size_t i = 0; bytes > 0; ++i) {
         blocks += pool.acquire(sizes[i % 4]);

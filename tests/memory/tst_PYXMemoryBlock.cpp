@@ -22,8 +22,11 @@ private Q_SLOTS:
 
 void tst_PYXMemoryBlock::givesBackWhatItOwns()
 {
-    auto allocator = QSharedPointer<WatchedAllocator>::create();
-    const QWeakPointer<WatchedAllocator> watched = allocator;
+    bool bGone = false;
+    QSharedPointer<WatchedAllocator> allocator(new WatchedAllocator, [&bGone](WatchedAllocator *gone) {
+        delete gone;
+        bGone = true;
+    });
     char foreign[] = "foreign";
     {
         const auto clone = PYXMemoryBlock::cloneFrom(allocator, foreign, sizeof foreign);
@@ -37,9 +40,9 @@ void tst_PYXMemoryBlock::givesBackWhatItOwns()
     QCOMPARE(allocator->out(), 0U);
     auto block = PYXMemoryBlock::allocate(allocator, 1);
     allocator.clear();
-    QVERIFY(!watched.isNull());
+    QVERIFY(!bGone);
     block.clear();
-    QVERIFY(watched.isNull());
+    QVERIFY(bGone);
 }
 
 void tst_PYXMemoryBlock::isUsableWithoutMemory()

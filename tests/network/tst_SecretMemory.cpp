@@ -99,7 +99,7 @@ void tst_SecretMemory::wipedTextsAreGone()
         while (!probe.canReadLine() && probe.waitForReadyRead())
             continue;
         said = probe.readLine().trimmed();
-        const QByteArray memory = writableMemory(probe.processId());
+        QByteArray memory = writableMemory(probe.processId());
         probe.write("\n");
         return memory;
     };
