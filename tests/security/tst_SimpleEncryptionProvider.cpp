@@ -15,8 +15,7 @@ const char *const Md5Container = "U01QTAEAAAAReXcAAAAQJEqDEUCbE8bQMSAf6XIW/MBvAA
 const QByteArray OneByteContainer =
     "U01QTAEAAAABqw8AAAAQndTkYSaMgDT1yFZOFVxnpnMGAAAAEOWsnBle9PhMjbAuNm0kH94=";
 /** Of the text, by algorithm. Made by golden_containers.py, which shares no code with the library. */
-// Long literals go over several lines.
-// NOLINTNEXTLINE(bugprone-suspicious-missing-comma)
+// Long literals go over several lines. NOLINTBEGIN(bugprone-suspicious-missing-comma)
 const QByteArray Containers[] = {
     "U01QTAAAAAARrO4AAAAQcpG8C0DHbsONTTehFi+5HP5BAAAAETpSCnkmsgCorXQPjSMP9FQI",
     Md5Container,
@@ -40,6 +39,7 @@ const QByteArray Containers[] = {
     "U01QTAoAAAARsooAAABAMkX7ONEYSxywSGXLzWBMEFLqK4LgsZkkcsmql+1Is1LrSbOAxzFuqaLfTf4xuXK6rkfvjV+f0lww2wElyT+"
     "OCPMcAAAAQHqGTUq3bSV3kHFd5/hAAVgooug0ktfsShnpk6/BfZMfozP7Q3FDCNzMtG3HCZVHmuMPlcWcKaA6RbVqBfAHoj0=",
 };
+// NOLINTEND(bugprone-suspicious-missing-comma)
 
 /** A sound container with the bytes of its record changed. */
 template <typename Change>
