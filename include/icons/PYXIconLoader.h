@@ -12,9 +12,13 @@
 #include <QtGui/QIcon>
 #include <QtGui/QImage>
 
+#include <memory>
+
 class QDir;
 
 namespace PYXRuntime {
+
+class IconDirectories;
 
 /** The words for modes and states in the names of image files: "normal", "disabled", "on" and so on. */
 PYXRUNTIME_EXPORT QHash<QIcon::Mode, QString> _iconModeNames();
@@ -87,6 +91,7 @@ public:
 
     static QIcon staticLoad(const QString &baseFilePath);
     static QIcon staticLoad(const QString &baseFilePath, QIcon::Mode mode, QIcon::State state);
+    static QIcon staticRawLoad(const QString &baseFilePath, QIcon::Mode mode, QIcon::State state);
     static QIcon staticLoadFromModule(const QString &modulePath, int index);
     static QIcon staticSetOverrideIcon(const QString &path, const QIcon &icon);
     static QIcon staticRemoveOverrideIcon(const QString &path);
@@ -104,17 +109,21 @@ Q_SIGNALS:
 
 private:
     using FoundImages = QMultiHash<uint, QStringList>; ///< files by mode (upper 16 bits) and state
+    struct struLoaded;
 
-    static FoundImages _findImages_direct(const QDir &dir, const QString &baseName);
-    static FoundImages _findImages_subdirs(const QDir &dir, const QString &baseName);
-    QIcon _loadImages(const FoundImages &files);
-    void _announceImages(const QIcon &icon);
+    FoundImages _findImages(const QString &baseFilePath, const QString &baseName);
+    FoundImages _findImages_direct(const QDir &dir, const QString &baseName);
+    FoundImages _findImages_subdirs(const QDir &dir, const QString &baseName);
+    struLoaded _loadImages(const FoundImages &found) const;
+    QIcon _rawLoad(const FoundImages &found, QIcon::Mode mode, QIcon::State state);
+    void _announce(const struLoaded &loaded);
     void _pyxDebug_dumpStatistics() const;
 
     QHash<QString, QIcon> m_iconCache;
     QHash<QString, QIcon> m_overrideIcons;
     QHash<QString, int> m_loadCounts;
     QList<QSize> m_sizesForSVGIcons;
+    std::unique_ptr<IconDirectories> m_directories;
 };
 
 } // namespace PYXRuntime
