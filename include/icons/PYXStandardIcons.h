@@ -9,7 +9,6 @@
 
 #include <QtCore/QHash>
 #include <QtCore/QSet>
-#include <QtCore/QVector>
 #include <QtGui/QPixmap>
 
 #include <memory>
@@ -50,7 +49,7 @@ public:
 
     /** The icon; the not-found icon where its files are missing, the not-registered one where it has none. */
     QIcon registeredIcon(uint id);
-    /** The icon as it looks in this mode and state, in every mode and state. */
+    /** The icon with its image for this mode and state only, other ones being derived from it. */
     QIcon registeredIcon(uint id, QIcon::Mode mode, QIcon::State state);
     /** The icon; an empty one where it has no files. */
     QIcon rawRegisteredIcon(uint id);
@@ -211,10 +210,17 @@ public:
 private:
     explicit PYXStandardIcons(QObject *parent = nullptr);
 
-    QIcon _resolvedIcon(uint id);
-    QIcon _builtinOrComposedIcon(uint id, bool bBuiltinPartsOnly);
+    enum eMissing { ekMissing_Empty, ekMissing_ShownAsSuch };
+    /** Where the parts of an icon that is made of others come from. */
+    enum eParts { ekParts_Builtin, ekParts_Registered };
+
+    QIcon _registeredIcon(uint id, eMissing missing);
+    QIcon _builtinIcon(uint id, eMissing missing, eParts parts);
+    QIcon _loadedIcon(const QString &baseFilePath, eMissing missing);
     QIcon _specialIcon(uint id);
-    QIcon _loadedOr(const QString &baseFilePath, uint fallbackId);
+    QIcon _madeIcon(uint id, eParts parts);
+    QIcon _autoOverlaid(uint id, struCompositeIconLayer overlay, uint overlayId, qreal scale,
+                        QIconHelpers::eOverlayRegionFlags candidates);
     void _postNextBatch();
 
     PYXIconLoader *m_loader; // a child
@@ -224,7 +230,8 @@ private:
     int m_delayLoadBatchSize;
     QHash<uint, QIcon> m_overrideIcons;
     QHash<uint, QIcon> m_specialIcons;
-    QVector<uint> m_idsToLoad;
+    QList<QSet<uint>> m_batches;
+    bool m_bBatchUnderway = false;
 };
 
 } // namespace PYXRuntime
