@@ -7,9 +7,11 @@
 #include "InitializationCount.h"
 #include "PYXEncryptionManager.h"
 #include "PYXFileListImpl.h"
+#include "PYXIconLoader.h"
 #include "PYXNetworkEntry.h"
 #include "PYXProxyManager.h"
 #include "PYXRuntimeCenter.h"
+#include "PYXStandardIcons.h"
 #include "PYXStatusHash.h"
 #include "PYXThisRunOnlySettings.h"
 #include "PYXTraceWrapper.h"
@@ -110,6 +112,8 @@ void uninitialize_PYXRuntime()
     PYXThisRunOnlySettings::destroyInstance();
     if (QSettings::defaultFormat() == PYXXmlSettings::format())
         QSettings::setDefaultFormat(QSettings::NativeFormat);
+    PYXIconLoader::destroyInstance();
+    PYXStandardIcons::destroyInstance();
     PYXFileListImpl::destroyInstance();
 }
 
