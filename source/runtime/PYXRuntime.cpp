@@ -5,6 +5,7 @@
 #include "EmbeddedFonts.h"
 #include "Enums.h"
 #include "InitializationCount.h"
+#include "NewIntegrationVersionChecker.h"
 #include "PYXEncryptionManager.h"
 #include "PYXFileListImpl.h"
 #include "PYXNetworkEntry.h"
@@ -110,6 +111,7 @@ void uninitialize_PYXRuntime()
     PYXThisRunOnlySettings::destroyInstance();
     if (QSettings::defaultFormat() == PYXXmlSettings::format())
         QSettings::setDefaultFormat(QSettings::NativeFormat);
+    NewIntegrationVersionChecker::destroyInstance();
     PYXFileListImpl::destroyInstance();
 }
 
