@@ -43,14 +43,17 @@ QLatin1String nameOf(PYXWinResVersion::eVersionType type)
     return QLatin1String(type == PYXWinResVersion::ekProductVersion ? "ProductVersion" : "FileVersion");
 }
 
-QByteArray blockOf(const QString &filePath)
+/** @return whether the file can be read and is one that may have a version resource. */
+bool readBlock(const QString &filePath, QByteArray &block)
 {
     QFile file(filePath);
     if (filePath.isEmpty() || !file.open(QIODevice::ReadOnly))
-        return QByteArray();
+        return false;
+    const PeImage image(file);
     const QVector<quint16> languages =
         QVector<quint16>{NeutralLanguage} + Platform::resourceLanguages() + QVector<quint16>{AmericanEnglish};
-    return PeImage(file).resource(VersionType, VersionId, languages, LargestBlock);
+    block = image.resource(VersionType, VersionId, languages, LargestBlock);
+    return image.isValid();
 }
 
 void readFixedInfo(struVersionData &data)
@@ -116,11 +119,13 @@ const struVersionData &PYXWinResVersion::_data() const
     if (!m_data.isNull())
         return *m_data;
     m_data.reset(new struVersionData);
-    m_data->root = VersionNode(blockOf(m_filePath));
+    QByteArray block;
+    const bool bImage = readBlock(m_filePath, block);
+    m_data->root = VersionNode(block);
     if (m_data->root.isValid()) {
         readFixedInfo(*m_data);
         readLocales(*m_data);
-    } else if (m_bRunningProgram) {
+    } else if (!bImage && m_bRunningProgram) {
         standInForResource(*m_data);
     }
     return *m_data;
