@@ -7,10 +7,8 @@
  * structure under the same names. Only who reads its fields needs this header; on Windows it brings
  * windows.h.
  */
-#if __has_include(<verrsrc.h>)
+#if __has_include(<winver.h>)
 #include <QtCore/qt_windows.h>
-// After the types of the former.
-#include <verrsrc.h>
 #else
 
 #include <QtCore/QtGlobal>

@@ -96,9 +96,9 @@ void tst_PYXWinResVersion::picksOneLanguage_data()
 {
     QTest::addColumn<QVector<int>>("languages");
     QTest::addColumn<int>("picked");
-    QTest::newRow("neutral") << QVector<int>{0x0452, 0x0409, 0x0000} << 0x0000;
-    QTest::newRow("American English") << QVector<int>{0x0452, 0x0409, 0x0481} << 0x0409;
-    QTest::newRow("the first") << QVector<int>{0x0481, 0x0452} << 0x0481;
+    QTest::newRow("neutral") << QVector<int>{0x0000, 0x0409, 0x0452} << 0x0000;
+    QTest::newRow("American English") << QVector<int>{0x0401, 0x0409, 0x0452} << 0x0409;
+    QTest::newRow("the first") << QVector<int>{0x0452, 0x0481} << 0x0452;
 }
 
 void tst_PYXWinResVersion::picksOneLanguage()
