@@ -11,6 +11,7 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
+#include <QtCore/QFileInfo>
 
 namespace PYXRuntime {
 
@@ -47,7 +48,8 @@ QLatin1String nameOf(PYXWinResVersion::eVersionType type)
 bool readBlock(const QString &filePath, QByteArray &block)
 {
     QFile file(filePath);
-    if (filePath.isEmpty() || !file.open(QIODevice::ReadOnly))
+    // Opening what is no file, a pipe, may wait for ever.
+    if (!QFileInfo(filePath).isFile() || !file.open(QIODevice::ReadOnly))
         return false;
     const PeImage image(file);
     const QVector<quint16> languages =

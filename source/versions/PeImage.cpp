@@ -104,7 +104,7 @@ QVector<PeImage::struEntry> PeImage::_directory(quint32 offset) const
 {
     const quint64 address = quint64(m_resourcesAddress) + offset;
     const QByteArray header = _readAddress(address, DirectorySize);
-    const quint32 names = littleEndian<quint16>(header, 12);
+    const quint64 names = littleEndian<quint16>(header, 12);
     const quint32 ids = littleEndian<quint16>(header, 14);
     const QByteArray table = _readAddress(address + DirectorySize + names * EntrySize, ids * EntrySize);
     QVector<struEntry> entries;

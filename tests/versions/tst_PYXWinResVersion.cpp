@@ -18,7 +18,7 @@ namespace {
 QByteArray sampleBlock(const QString &product = "9.8.7.6")
 {
     const QByteArray english = string("FileVersion", "1.2.3 (Debug)") + string("ProductVersion", product) +
-                               string("Comments", QString::fromUtf8("Übermaß")) + string("Empty", "");
+                               string("Comments", QString::fromUtf8("Übermaß"));
     return versionInfo(fixedInfo({0x00010002, 0x00030004, 0x00050006, 0x00070008}),
                        node("040904b0", true, 0, {}, english) +
                            node("040704B0", true, 0, {}, string("FileVersion", "v3.2_1")),
