@@ -5,6 +5,7 @@
 #include "EmbeddedFonts.h"
 #include "Enums.h"
 #include "InitializationCount.h"
+#include "NewIntegrationVersionChecker.h"
 #include "PYXEncryptionManager.h"
 #include "PYXFileListImpl.h"
 #include "PYXIconLoader.h"
@@ -114,6 +115,7 @@ void uninitialize_PYXRuntime()
         QSettings::setDefaultFormat(QSettings::NativeFormat);
     PYXIconLoader::destroyInstance();
     PYXStandardIcons::destroyInstance();
+    NewIntegrationVersionChecker::destroyInstance();
     PYXFileListImpl::destroyInstance();
 }
 
