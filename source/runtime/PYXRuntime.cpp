@@ -13,6 +13,7 @@
 #include "PYXStatusHash.h"
 #include "PYXThisRunOnlySettings.h"
 #include "PYXTraceWrapper.h"
+#include "PYXTransConnectorImpl.h"
 #include "PYXXmlSettings.h"
 
 #include <QtCore/QCoreApplication>
@@ -84,7 +85,9 @@ bool initialize_PYXRuntime(ePYXInitializeFlags flags)
     PYXProxyManager::makeSureInitialized();
     PYXStatusHash::registerMetaType();
     PYXNetworkEntry::registerMetaTypes();
-    PYXFileListImpl::makeSureInitialized(); // whoever writes files finds it through the broker
+    // Found through the broker by whoever writes files or shows texts.
+    PYXFileListImpl::makeSureInitialized();
+    PYXTransConnectorImpl::makeSureInitialized();
     if (!flags.testFlag(ekInitialize_NoFonts))
         setUpFonts(flags);
     s_initializationFlags = flags;
@@ -110,6 +113,7 @@ void uninitialize_PYXRuntime()
     PYXThisRunOnlySettings::destroyInstance();
     if (QSettings::defaultFormat() == PYXXmlSettings::format())
         QSettings::setDefaultFormat(QSettings::NativeFormat);
+    PYXTransConnectorImpl::destroyInstance();
     PYXFileListImpl::destroyInstance();
 }
 
