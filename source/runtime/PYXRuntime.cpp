@@ -7,6 +7,7 @@
 #include "InitializationCount.h"
 #include "PYXEncryptionManager.h"
 #include "PYXFileListImpl.h"
+#include "PYXHelpConnectorImpl.h"
 #include "PYXNetworkEntry.h"
 #include "PYXProxyManager.h"
 #include "PYXRuntimeCenter.h"
@@ -113,6 +114,7 @@ void uninitialize_PYXRuntime()
     PYXThisRunOnlySettings::destroyInstance();
     if (QSettings::defaultFormat() == PYXXmlSettings::format())
         QSettings::setDefaultFormat(QSettings::NativeFormat);
+    PYXHelpConnectorImpl::destroyInstance();
     PYXTransConnectorImpl::destroyInstance();
     PYXFileListImpl::destroyInstance();
 }
