@@ -3,6 +3,7 @@
 #include "PYXTransConnectorImpl.h"
 
 #include "LanguageChangeHold.h"
+#include "PYXStringPool.h"
 #include "PYXTraceWrapper.h"
 #include "PYXTranslatableModuleImpl.h"
 #include "SingletonHolder.h"
@@ -144,6 +145,8 @@ bool PYXTransConnectorImpl::changeLocale(const QString &locale)
     if (result == ekResult_Loaded)
         m_localeName = wanted;
     const bool bChanged = result != ekResult_NoBase || previous != English;
+    if (bChanged)
+        PYXStringPool::populate();
     hold.release();
     if (bChanged)
         Q_EMIT si_localeChanged();

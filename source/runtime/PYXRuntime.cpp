@@ -12,6 +12,7 @@
 #include "PYXProxyManager.h"
 #include "PYXRuntimeCenter.h"
 #include "PYXStatusHash.h"
+#include "PYXStringPool.h"
 #include "PYXThisRunOnlySettings.h"
 #include "PYXTraceWrapper.h"
 #include "PYXTransConnectorImpl.h"
@@ -79,6 +80,7 @@ bool initialize_PYXRuntime(ePYXInitializeFlags flags)
     PYXTraceWrapper::staticTraceDebug(QStringLiteral("initialize_PYXRuntime: first call => initializing"),
                                       TraceFile, __LINE__);
     reportMissingApplicationName();
+    PYXStringPool::populate();
     QSettings::setDefaultFormat(PYXXmlSettings::format());
     PYXThisRunOnlySettings::makeSureInitialized();
     Enums::makeSureInitialized();
