@@ -13,6 +13,8 @@ class QTranslator;
 
 namespace PYXRuntime {
 
+class LanguageChangeHold;
+
 /**
  * The library's translation connector. It is there, and known to the broker, from the first getInstance()
  * until the library is shut down; initialising the library makes it. The library itself is registered with it
@@ -64,12 +66,12 @@ private:
         std::unique_ptr<PYXTranslatableModuleImpl> owned; ///< where it was registered by name
     };
     using Modules = std::vector<struModule>;
-    enum eResult { ekResult_Loaded, ekResult_NoBase, ekResult_NoModule };
 
     PYXTransConnectorImpl();
-    eResult _load(const QString &locale);
+    bool _loadBase(const QString &locale);
     bool _loadModules(const QString &locale);
     void _unloadAll();
+    void _announce(LanguageChangeHold &hold, bool changed);
     Modules::iterator _find(const QString &baseName);
     void _remove(Modules::iterator position);
 

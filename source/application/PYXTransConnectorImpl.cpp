@@ -12,6 +12,7 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QLocale>
+#include <QtCore/QPointer>
 #include <QtCore/QStandardPaths>
 
 #include <algorithm>
@@ -141,44 +142,48 @@ bool PYXTransConnectorImpl::changeLocale(const QString &locale)
     LanguageChangeHold hold;
     _unloadAll();
     m_localeName = English;
-    const eResult result = _load(wanted);
-    if (result == ekResult_Loaded)
+    const bool bBase = _loadBase(wanted);
+    const bool bLoaded = bBase && (_loadModules(wanted) || wanted == English);
+    if (bLoaded)
         m_localeName = wanted;
-    const bool bChanged = result != ekResult_NoBase || previous != English;
-    if (bChanged)
-        PYXStringPool::populate();
-    hold.release();
-    if (bChanged)
-        Q_EMIT si_localeChanged();
-    return result == ekResult_Loaded;
+    else
+        _unloadAll();
+    _announce(hold, bBase || previous != English);
+    return bLoaded;
 }
 
-PYXTransConnectorImpl::eResult PYXTransConnectorImpl::_load(const QString &locale)
+void PYXTransConnectorImpl::_announce(LanguageChangeHold &hold, bool changed)
+{
+    const QPointer<PYXTransConnectorImpl> guard(this);
+    if (changed)
+        PYXStringPool::populate();
+    hold.release();
+    if (changed && !guard.isNull())
+        Q_EMIT si_localeChanged();
+}
+
+/** Loads the files of the application and of Qt. */
+bool PYXTransConnectorImpl::_loadBase(const QString &locale)
 {
     const bool bNeedsFiles = locale != English;
     const QString directory = getTransDirPath();
-    auto application = TranslationFile::open(QCoreApplication::applicationName(), locale, directory);
-    if (application == nullptr && bNeedsFiles) {
+    m_applicationTranslator = TranslationFile::open(QCoreApplication::applicationName(), locale, directory);
+    if (m_applicationTranslator == nullptr && bNeedsFiles) {
         PYXTraceWrapper::staticTraceError(
             QStringLiteral("Cannot load the application's translation file for locale \"%1\".").arg(locale),
             TraceFile, __LINE__);
-        return ekResult_NoBase;
+        return false;
     }
-    auto qt = TranslationFile::open(QtStem, locale, directory);
-    if (qt == nullptr && bNeedsFiles) {
+    m_qtTranslator = TranslationFile::open(QtStem, locale, directory);
+    if (m_qtTranslator == nullptr && bNeedsFiles) {
         PYXTraceWrapper::staticTraceError(noQtFileText(locale), TraceFile, __LINE__);
-        return ekResult_NoBase;
+        return false;
     }
-    m_applicationTranslator = std::move(application);
-    m_qtTranslator = std::move(qt);
     for (QTranslator *const translator : {m_applicationTranslator.get(), m_qtTranslator.get()}) {
         if (translator != nullptr)
             QCoreApplication::installTranslator(translator);
     }
-    if (_loadModules(locale) || !bNeedsFiles)
-        return ekResult_Loaded;
-    _unloadAll();
-    return ekResult_NoModule;
+    return true;
 }
 
 /** @return false where a file is missing that is not optional. */

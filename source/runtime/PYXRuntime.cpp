@@ -4,6 +4,8 @@
 
 #include "EmbeddedFonts.h"
 #include "Enums.h"
+#include "EnumTables.h"
+#include "Flags.h"
 #include "InitializationCount.h"
 #include "PYXEncryptionManager.h"
 #include "PYXFileListImpl.h"
@@ -13,6 +15,7 @@
 #include "PYXRuntimeCenter.h"
 #include "PYXStatusHash.h"
 #include "PYXStringPool.h"
+#include "PYXStyleHints.h"
 #include "PYXThisRunOnlySettings.h"
 #include "PYXTraceWrapper.h"
 #include "PYXTransConnectorImpl.h"
@@ -84,6 +87,9 @@ bool initialize_PYXRuntime(ePYXInitializeFlags flags)
     QSettings::setDefaultFormat(PYXXmlSettings::format());
     PYXThisRunOnlySettings::makeSureInitialized();
     Enums::makeSureInitialized();
+    Flags::makeSureInitialized();
+    fillEnumTables();
+    PYXStyleHints::makeSureInitialized();
     PYXEncryptionManager::makeSureInitialized();
     PYXProxyManager::makeSureInitialized();
     PYXStatusHash::registerMetaType();
@@ -112,6 +118,8 @@ void uninitialize_PYXRuntime()
     tearDownFonts();
     PYXProxyManager::destroyInstance();
     PYXEncryptionManager::destroyInstance();
+    PYXStyleHints::destroyInstance();
+    Flags::destroyInstance();
     Enums::destroyInstance();
     PYXThisRunOnlySettings::destroyInstance();
     if (QSettings::defaultFormat() == PYXXmlSettings::format())
