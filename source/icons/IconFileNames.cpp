@@ -100,10 +100,14 @@ QString _iconStateName(QIcon::State state)
 const QVector<struIconFileTag> &iconFileTags()
 {
     static const QVector<struIconFileTag> tags = [] {
+        const QLatin1Char separator('_');
         QVector<struIconFileTag> pairs;
         for (const struModeWord &mode : ModeWords) {
             for (const struStateWord &state : StateWords)
-                pairs += {{mode.mode, state.state}, mode.word, state.word};
+                pairs += {{mode.mode, state.state},
+                          separator + mode.word,
+                          separator + state.word,
+                          mode.word + (separator + state.word)};
         }
         return pairs;
     }();

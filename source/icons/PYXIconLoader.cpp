@@ -34,22 +34,22 @@ void warn(const QString &format, const QString &names)
     qWarning("%s", qUtf8Printable(format.arg(names)));
 }
 
-/** Those that begin so, whatever their case. */
+/** Those that begin so, whatever their case; they are sorted without regard to it. */
 QStringList filesBeginningWith(const QStringList &files, const QString &baseName)
 {
+    const auto comesBefore = [](const QString &file, const QString &name) {
+        return file.compare(name, Qt::CaseInsensitive) < 0;
+    };
     QStringList found;
-    for (const QString &file : files) {
-        if (file.startsWith(baseName, Qt::CaseInsensitive))
-            found += file;
-    }
+    auto file = std::lower_bound(files.cbegin(), files.cend(), baseName, comesBefore);
+    for (; file != files.cend() && file->startsWith(baseName, Qt::CaseInsensitive); ++file)
+        found += *file;
     return found;
 }
 
 bool hasTags(const QString &file, const struIconFileTag &tag)
 {
-    const QLatin1Char separator('_');
-    return file.contains(separator + tag.mode, Qt::CaseInsensitive) &&
-           file.contains(separator + tag.state, Qt::CaseInsensitive);
+    return file.contains(tag.mode, Qt::CaseInsensitive) && file.contains(tag.state, Qt::CaseInsensitive);
 }
 
 QSize largestOf(const QList<QSize> &sizes)
@@ -249,9 +249,10 @@ PYXIconLoader::FoundImages PYXIconLoader::_findImages_subdirs(const QDir &dir, c
     FoundImages found;
     const QStringList directories = m_directories->listing(dir).directories;
     for (const struIconFileTag &tag : iconFileTags()) {
-        const QString name = tag.mode + QLatin1Char('_') + tag.state;
-        const QDir subdir(dir.absoluteFilePath(name));
-        if (!directories.contains(name, Qt::CaseInsensitive) || !subdir.exists())
+        if (!directories.contains(tag.folder, Qt::CaseInsensitive))
+            continue;
+        const QDir subdir(dir.absoluteFilePath(tag.folder));
+        if (!subdir.exists())
             continue;
         QStringList paths;
         QStringList others;

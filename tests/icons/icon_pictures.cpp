@@ -57,7 +57,7 @@ QList<struPicture> pictures()
         {"the same, alpha 128", Icons::staticRegisteredIconAutoOverlaidTransparent(
                                     document, plus, 128, 0.5, Regions::ekOverlayRegion_Corners)},
         {"composite", composite()},
-        {"sliced: disabled as normal",
+        {"disabled only",
          Icons::staticInterleavedIcon({{document, QIcon::Disabled, QIcon::Off}})},
         {"interleaved, on", Icons::staticRegisteredIcon(eye), QIcon::On},
         {"interleaved, off", Icons::staticRegisteredIcon(eye)},
