@@ -21,11 +21,11 @@ struct struStateWord
     QLatin1String word;
 };
 
-constexpr struModeWord ModeWords[] = {{QIcon::Normal, QLatin1String("normal")},
-                                      {QIcon::Disabled, QLatin1String("disabled")},
-                                      {QIcon::Active, QLatin1String("active")},
-                                      {QIcon::Selected, QLatin1String("selected")}};
-constexpr struStateWord StateWords[] = {{QIcon::On, QLatin1String("on")}, {QIcon::Off, QLatin1String("off")}};
+const struModeWord ModeWords[] = {{QIcon::Normal, QLatin1String("normal")},
+                                  {QIcon::Disabled, QLatin1String("disabled")},
+                                  {QIcon::Active, QLatin1String("active")},
+                                  {QIcon::Selected, QLatin1String("selected")}};
+const struStateWord StateWords[] = {{QIcon::On, QLatin1String("on")}, {QIcon::Off, QLatin1String("off")}};
 
 bool isSeparator(QChar c)
 {
