@@ -228,7 +228,9 @@ void tst_PYXStandardIcons::whatWins()
     folder.draw("own_normal_off.png", Qt::red, 48);
     folder.draw("called_normal_off.png", Qt::green, 48);
     const uint id = Icons::ekIcon_Save;
-    const auto colour = [id] { return colourAt(Icons::staticRegisteredIcon(id), 48, {20, 20}); };
+    const auto colour = [] {
+        return colourAt(Icons::staticRegisteredIcon(Icons::ekIcon_Save), 48, {20, 20});
+    };
     const QIcon builtin = Icons::staticRegisteredIcon(id);
     QCOMPARE(Icons::staticRegisterIcon(id, folder.path("own")), QString());
     QCOMPARE(colour(), QColor(Qt::red));
