@@ -324,6 +324,7 @@ void tst_PYXStandardIcons::eyeIsInterleaved()
         icons.registeredIconPixmap(Icons::ekIcon_Overlay_Eye_No, 24, QIcon::Normal, QIcon::Off).toImage();
     QCOMPARE(icons.registeredIconPixmap(id, 24, QIcon::Normal, QIcon::On).toImage(), eye);
     QCOMPARE(icons.registeredIconPixmap(id, 24, QIcon::Normal, QIcon::Off).toImage(), noEye);
+    QCOMPARE(icons.registeredIcon(id).cacheKey(), icons.registeredIcon(id).cacheKey());
     icons.setOverrideIcon(Icons::ekIcon_Overlay_Eye, plain(Qt::red));
     QCOMPARE(colourAt(icons.registeredIcon(id), 24, {0, 0}, QIcon::Active, QIcon::On), QColor(Qt::red));
     QCOMPARE(icons.builtinIconPixmap(id, 24, QIcon::Normal, QIcon::On).toImage(), eye);
