@@ -8,6 +8,7 @@
 #include "PYXEncryptionManager.h"
 #include "PYXFileListImpl.h"
 #include "PYXNetworkEntry.h"
+#include "PYXPopupNotification.h"
 #include "PYXProxyManager.h"
 #include "PYXRuntimeCenter.h"
 #include "PYXStatusHash.h"
@@ -80,6 +81,7 @@ bool initialize_PYXRuntime(ePYXInitializeFlags flags)
     QSettings::setDefaultFormat(PYXXmlSettings::format());
     PYXThisRunOnlySettings::makeSureInitialized();
     Enums::makeSureInitialized();
+    PYXPopupNotification::makeSureInitialized();
     PYXEncryptionManager::makeSureInitialized();
     PYXProxyManager::makeSureInitialized();
     PYXStatusHash::registerMetaType();
@@ -106,6 +108,7 @@ void uninitialize_PYXRuntime()
     tearDownFonts();
     PYXProxyManager::destroyInstance();
     PYXEncryptionManager::destroyInstance();
+    PYXPopupNotification::destroyInstance();
     Enums::destroyInstance();
     PYXThisRunOnlySettings::destroyInstance();
     if (QSettings::defaultFormat() == PYXXmlSettings::format())
