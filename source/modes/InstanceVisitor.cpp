@@ -11,7 +11,7 @@ namespace PYXRuntime {
 namespace {
 
 // What comes after the message, or instead of one, stays in the system.
-constexpr qint64 ReadBufferSize = 64 * 1024;
+constexpr qint64 ReadBufferSize = 65'536;
 
 } // namespace
 

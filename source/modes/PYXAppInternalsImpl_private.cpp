@@ -3,6 +3,7 @@
 #include "PYXAppInternalsImpl_private.h"
 
 #include "PYXAppInternalsImpl.h"
+#include "PYXPopupNotification.h"
 #include "PYXTraceWrapper.h"
 
 #include <QtCore/QTimer>
@@ -72,12 +73,13 @@ void PYXAppInternalsImpl_private::_sl_logAppMode()
 
 void PYXAppInternalsImpl_private::_sl_scDebug_activated()
 {
-    _toggle(PYXIAppInternals::ekAppMode_Debug);
+    _toggle(PYXIAppInternals::ekAppMode_Debug, tr("++debug mode activated"), tr("++debug mode deactivated"));
 }
 
 void PYXAppInternalsImpl_private::_sl_scExpert_activated()
 {
-    _toggle(PYXIAppInternals::ekAppMode_Expert);
+    _toggle(PYXIAppInternals::ekAppMode_Expert, tr("++expert mode activated"),
+            tr("++expert mode deactivated"));
 }
 
 QShortcut *PYXAppInternalsImpl_private::_newShortcut(QWidget *widget, const char *chord,
@@ -92,9 +94,10 @@ QShortcut *PYXAppInternalsImpl_private::_newShortcut(QWidget *widget, const char
     return shortcut;
 }
 
-void PYXAppInternalsImpl_private::_toggle(quint64 mode)
+void PYXAppInternalsImpl_private::_toggle(quint64 mode, const QString &activated, const QString &deactivated)
 {
     const bool isOn = (m_internals->appModes() & mode) != 0;
+    PYXPopupNotification::queueNotification(isOn ? deactivated : activated);
     // Last: a listener may destroy all of this.
     if (isOn)
         m_internals->unsetAppModes(mode);

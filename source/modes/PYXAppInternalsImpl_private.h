@@ -48,7 +48,7 @@ private:
     };
 
     QShortcut *_newShortcut(QWidget *widget, const char *chord, void (PYXAppInternalsImpl_private::*slot)());
-    void _toggle(quint64 mode);
+    void _toggle(quint64 mode, const QString &activated, const QString &deactivated);
     static void _remove(const struShortcuts &shortcuts);
 
     PYXAppInternalsImpl *const m_internals;

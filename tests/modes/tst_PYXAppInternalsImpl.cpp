@@ -3,6 +3,8 @@
 #include "AppInternals.h"
 #include "PYXAppInternalsSimple.h"
 #include "PYXBroker.h"
+#include "PYXPopupNotification.h"
+#include "PYXPopupNotificationWidget.h"
 #include "PYXRuntimeCenter.h"
 #include "RecordingTracer.h"
 
@@ -61,18 +63,31 @@ struct Window : QWidget
     }
 };
 
+/** What is popped up; empty if nothing has been since the last test. */
+QString popupText()
+{
+    for (const QWidget *const widget : QApplication::allWidgets()) {
+        if (const auto *const popup = qobject_cast<const PYXPopupNotificationWidget *>(widget))
+            return popup->text();
+    }
+    return {};
+}
+
 } // namespace
 
 class tst_PYXAppInternalsImpl : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
+    void cleanup() { PYXPopupNotification::destroyInstance(); }
     void isFoundByTheBroker();
     void warnsOfAnOwnerThatIsNoInterface();
     void takesSwitchesFromArguments_data();
     void takesSwitchesFromArguments();
     void tellsOfChangesOnly();
     void togglesModesByChords();
+    void popsUpWhatAChordHasDone_data();
+    void popsUpWhatAChordHasDone();
     void keepsNoChordsWithoutTheirWidget();
     void survivesListenersThatDestroyIt();
     void logsTheModes();
@@ -240,6 +255,28 @@ void tst_PYXAppInternalsImpl::togglesModesByChords()
     QVERIFY(window.findChildren<QShortcut *>().isEmpty());
     QTest::keySequence(&window, QKeySequence(ExpertChord));
     QCOMPARE(internals.appModes(), Expert);
+}
+
+void tst_PYXAppInternalsImpl::popsUpWhatAChordHasDone_data()
+{
+    QTest::addColumn<QString>("chord");
+    QTest::addColumn<QStringList>("texts");
+    QTest::newRow("debug") << DebugChord << QStringList{"++debug mode activated", "++debug mode deactivated"};
+    QTest::newRow("expert") << ExpertChord
+                            << QStringList{"++expert mode activated", "++expert mode deactivated"};
+}
+
+void tst_PYXAppInternalsImpl::popsUpWhatAChordHasDone()
+{
+    QFETCH(QString, chord);
+    QFETCH(QStringList, texts);
+    PYXAppInternalsSimple internals;
+    Window window;
+    internals.installShortcuts_AppModes(&window);
+    for (int i = 0; i < texts.size(); ++i)
+        QTest::keySequence(&window, QKeySequence(chord));
+    for (const QString &text : qAsConst(texts))
+        QTRY_COMPARE(popupText(), text);
 }
 
 void tst_PYXAppInternalsImpl::keepsNoChordsWithoutTheirWidget()

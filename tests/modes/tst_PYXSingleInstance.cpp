@@ -64,6 +64,7 @@ void tst_PYXSingleInstance::initTestCase()
 void tst_PYXSingleInstance::makesExactlyOneOfManyTheFirst()
 {
     std::vector<std::unique_ptr<QProcess>> probes;
+    probes.reserve(6);
     for (int i = 0; i < 6; ++i)
         probes.push_back(startedProbe({QString::number(i)}));
     QStringList results;
