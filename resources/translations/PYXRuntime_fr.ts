@@ -76,11 +76,11 @@
     <name>PYXRuntime::PYXAppInternalsImpl</name>
     <message>
         <source>Application is running in DEBUG MODE</source>
-        <translation>L’application s’exécute en MODE DÉBOGAGE</translation>
+        <translation>L&apos;application s&apos;exécute en MODE DÉBOGAGE</translation>
     </message>
     <message>
         <source>Application is running in EXPERT MODE</source>
-        <translation>L’application s’exécute en MODE EXPERT</translation>
+        <translation>L&apos;application s&apos;exécute en MODE EXPERT</translation>
     </message>
 </context>
 <context>
@@ -153,11 +153,11 @@
     <name>PYXRuntime::PYXSingleInstance</name>
     <message>
         <source>Another user&apos;s program stands in for this application.</source>
-        <translation>Le programme d’un autre utilisateur se fait passer pour cette application.</translation>
+        <translation>Le programme d&apos;un autre utilisateur se fait passer pour cette application.</translation>
     </message>
     <message>
         <source>Other instances cannot be listened to: %1</source>
-        <translation>Impossible d’écouter les autres instances : %1</translation>
+        <translation>Impossible d&apos;écouter les autres instances : %1</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; cannot be locked.</source>
@@ -169,19 +169,19 @@
     </message>
     <message>
         <source>The running instance does not accept the arguments.</source>
-        <translation>L’instance en cours n’accepte pas les arguments.</translation>
+        <translation>L&apos;instance en cours n&apos;accepte pas les arguments.</translation>
     </message>
     <message>
         <source>The running instance does not answer.</source>
-        <translation>L’instance en cours ne répond pas.</translation>
+        <translation>L&apos;instance en cours ne répond pas.</translation>
     </message>
     <message>
         <source>There are too many arguments.</source>
-        <translation>Il y a trop d’arguments.</translation>
+        <translation>Il y a trop d&apos;arguments.</translation>
     </message>
     <message>
         <source>There is no directory for what only lasts as long as the session.</source>
-        <translation>Il n’y a pas de répertoire pour ce qui ne dure que le temps de la session.</translation>
+        <translation>Il n&apos;y a pas de répertoire pour ce qui ne dure que le temps de la session.</translation>
     </message>
 </context>
 <context>

@@ -10,6 +10,7 @@
 #include "PYXRuntime.h"
 #include "PYXSettings.h"
 #include "PYXSettingsTransfer.h"
+#include "PYXSingleInstance.h"
 #include "PYXStrings.h"
 #include "PYXStyleHints.h"
 #include "PYXTracerBase.h"
@@ -43,8 +44,8 @@ void fillEnumTables()
 {
     registerEnumerations<PYXStrings::eText, PYXIFileList::eFileType, PYXRetainingFileSet::eWeight,
                          PYXSettings::ePurpose, PYXSettings::eThisRunOnlySettings,
-                         PYXSettingsTransfer::eSecrets, PYXStyleHints::eColor, PYXStyleHints::eIconSize,
-                         PYXTracerBase::eForm, PYXTracerBase::eLevel>();
+                         PYXSettingsTransfer::eSecrets, PYXSingleInstance::eResult, PYXStyleHints::eColor,
+                         PYXStyleHints::eIconSize, PYXTracerBase::eForm, PYXTracerBase::eLevel>();
     Enums::registerEnumeration(QStringLiteral("PYXRuntime::PYXIApplicationInfo::eSpecialDir"), specialDirs());
     Flags::registerFlags<ePYXInitializeFlags>();
 }
