@@ -8,8 +8,10 @@ install(FILES ${public_headers} "${CMAKE_CURRENT_BINARY_DIR}/include/pyxruntime_
 install(TARGETS PYXRuntime EXPORT PYXRuntimeTargets)
 set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/PYXRuntime")
 install(EXPORT PYXRuntimeTargets NAMESPACE PYXRuntime:: DESTINATION "${package_dir}")
+set(PYX_INSTALLED_TRANSLATIONS_DIR "${CMAKE_INSTALL_DATADIR}/PYXRuntime/translations")
 configure_package_config_file(cmake/PYXRuntimeConfig.cmake.in
-    "${CMAKE_CURRENT_BINARY_DIR}/PYXRuntimeConfig.cmake" INSTALL_DESTINATION "${package_dir}")
+    "${CMAKE_CURRENT_BINARY_DIR}/PYXRuntimeConfig.cmake" INSTALL_DESTINATION "${package_dir}"
+    PATH_VARS PYX_INSTALLED_TRANSLATIONS_DIR)
 write_basic_package_version_file("${CMAKE_CURRENT_BINARY_DIR}/PYXRuntimeConfigVersion.cmake"
     COMPATIBILITY SameMinorVersion)
 install(FILES "${CMAKE_CURRENT_BINARY_DIR}/PYXRuntimeConfig.cmake"

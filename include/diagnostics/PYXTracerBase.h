@@ -5,6 +5,7 @@
 #include "IPYXTracer.h"
 #include "pyxruntime_export.h"
 
+#include <QtCore/QObject>
 #include <QtCore/QString>
 #include <QtCore/QStringList>
 
@@ -16,6 +17,7 @@ namespace PYXRuntime {
  */
 class PYXRUNTIME_EXPORT PYXTracerBase : public Interfaces::IPYXTracer2
 {
+    Q_GADGET
 public:
     enum eLevel {
         ekLevel_Debug,
@@ -26,7 +28,9 @@ public:
         ekLevel_DebugWarn,
         ekLevel_DebugError
     };
+    Q_ENUM(eLevel)
     enum eForm { ekForm_Text, ekForm_List, ekForm_TwoTexts };
+    Q_ENUM(eForm)
 
     struct PYXRUNTIME_EXPORT struTrace
     {

@@ -4,13 +4,29 @@
 
 #include "pyxruntime_export.h"
 
+#include <QtCore/QMetaEnum>
 #include <QtCore/QObject>
+#include <QtCore/QPair>
+#include <QtCore/QString>
+#include <QtCore/QStringList>
+#include <QtCore/QVector>
+
+#include <memory>
 
 namespace PYXRuntime {
 
+class KeyTables;
+
 /**
- * The enumerations whose names are stored: a renamed enumerator would no longer be read. EnumHelpers
- * converts them. The object makes them known to QMetaType; initialising the library creates it.
+ * The table of enumerations: names to values and back, by the qualified name of the type. Initialising the
+ * library creates it with every enumeration of the library; applications add theirs.
+ * @code
+ * Enums::nameOf("PYXRuntime::PYXIFileList::eFileType", PYXIFileList::ekFT_AUDIO); // "ekFT_AUDIO"
+ * @endcode
+ * The enumerations that are declared here are stored by name: a renamed enumerator would no longer be read.
+ * EnumHelpers converts them also without the table.
+ *
+ * The table may be read in any thread as long as it exists; all else is for the main thread.
  */
 class PYXRUNTIME_EXPORT Enums final : public QObject
 {
@@ -32,6 +48,9 @@ public:
     };
     Q_ENUM(eProxyVariant)
 
+    /** The enumerators in the order of their declaration. */
+    using Keys = QVector<QPair<QString, qint64>>;
+
     ~Enums() override;
 
     static Enums *getInstance();
@@ -39,8 +58,29 @@ public:
     static void makeSureInitialized();
     static void destroyInstance();
 
+    /** Adds an enumeration, or replaces it. */
+    static void registerEnumeration(const QString &enumeration, const Keys &keys);
+    static void registerEnumeration(const QMetaEnum &enumeration);
+    /** For a type with Q_ENUM or Q_ENUM_NS. */
+    template <typename Enum>
+    static void registerEnumeration()
+    {
+        registerEnumeration(QMetaEnum::fromType<Enum>());
+    }
+
+    /** The qualified names of all types, sorted. */
+    static QStringList enumerations();
+    /** Empty for an unknown type. */
+    static Keys keys(const QString &enumeration);
+    /** The first declared name of a value; empty for an unknown type or value. */
+    static QString nameOf(const QString &enumeration, qint64 value);
+    /** 0, with *ok false, for an unknown type or name. */
+    static qint64 valueOf(const QString &enumeration, const QString &name, bool *ok = nullptr);
+
 private:
     explicit Enums(QObject *parent = nullptr);
+
+    const std::unique_ptr<KeyTables> m_tables;
 };
 
 } // namespace PYXRuntime

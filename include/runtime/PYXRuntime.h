@@ -7,6 +7,7 @@
 #include <QtCore/QEventLoop>
 #include <QtCore/QFlags>
 #include <QtCore/QLibrary>
+#include <QtCore/QObject>
 #include <QtCore/QString>
 
 /** @file
@@ -14,6 +15,7 @@
  */
 
 namespace PYXRuntime {
+Q_NAMESPACE_EXPORT(PYXRUNTIME_EXPORT)
 
 /** What the first initialisation does; combine with "|". */
 enum ePYXInitializeFlag {
@@ -24,6 +26,7 @@ enum ePYXInitializeFlag {
     ekInitialize_KeepApplicationFont = 0x8 ///< the application font is left alone
 };
 Q_DECLARE_FLAGS(ePYXInitializeFlags, ePYXInitializeFlag)
+Q_FLAG_NS(ePYXInitializeFlags)
 
 /**
  * Initialises the library, or counts a further reference to an initialised one and ignores @p flags.

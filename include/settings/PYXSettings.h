@@ -50,6 +50,7 @@ public:
         eDefaultApplicationSettings = 3, ///< of the machine
         eDefaultSharedSettings = 4       ///< of the machine
     };
+    Q_ENUM(ePurpose)
 
     /** Stores that are gone after the library is shut down. */
     enum eThisRunOnlySettings : int {
@@ -58,6 +59,7 @@ public:
         eThisRunOnlyUserShared = 2,
         eThisRunOnlyDefaultShared = 3
     };
+    Q_ENUM(eThisRunOnlySettings)
 
     /** A file in the default format. */
     explicit PYXSettings(const QString &fileName, QObject *parent = nullptr);

@@ -26,11 +26,13 @@ class PYXSettings;
  */
 class PYXRUNTIME_EXPORT PYXSettingsTransfer final
 {
+    Q_GADGET
     Q_DECLARE_TR_FUNCTIONS(PYXRuntime::PYXSettingsTransfer)
 public:
     PYXSettingsTransfer() = delete;
 
     enum eSecrets { ekSecrets_LeaveOut, ekSecrets_Include };
+    Q_ENUM(eSecrets)
 
     struct struResult
     {

@@ -4,17 +4,24 @@
 
 #include "EmbeddedFonts.h"
 #include "Enums.h"
+#include "EnumTables.h"
+#include "Flags.h"
 #include "InitializationCount.h"
+#include "NewIntegrationVersionChecker.h"
 #include "PYXEncryptionManager.h"
 #include "PYXFileListImpl.h"
+#include "PYXHelpConnectorImpl.h"
 #include "PYXIconLoader.h"
 #include "PYXNetworkEntry.h"
 #include "PYXProxyManager.h"
 #include "PYXRuntimeCenter.h"
 #include "PYXStandardIcons.h"
 #include "PYXStatusHash.h"
+#include "PYXStringPool.h"
+#include "PYXStyleHints.h"
 #include "PYXThisRunOnlySettings.h"
 #include "PYXTraceWrapper.h"
+#include "PYXTransConnectorImpl.h"
 #include "PYXXmlSettings.h"
 
 #include <QtCore/QCoreApplication>
@@ -79,14 +86,20 @@ bool initialize_PYXRuntime(ePYXInitializeFlags flags)
     PYXTraceWrapper::staticTraceDebug(QStringLiteral("initialize_PYXRuntime: first call => initializing"),
                                       TraceFile, __LINE__);
     reportMissingApplicationName();
+    PYXStringPool::populate();
     QSettings::setDefaultFormat(PYXXmlSettings::format());
     PYXThisRunOnlySettings::makeSureInitialized();
     Enums::makeSureInitialized();
+    Flags::makeSureInitialized();
+    fillEnumTables();
+    PYXStyleHints::makeSureInitialized();
     PYXEncryptionManager::makeSureInitialized();
     PYXProxyManager::makeSureInitialized();
     PYXStatusHash::registerMetaType();
     PYXNetworkEntry::registerMetaTypes();
-    PYXFileListImpl::makeSureInitialized(); // whoever writes files finds it through the broker
+    // Found through the broker by whoever writes files or shows texts.
+    PYXFileListImpl::makeSureInitialized();
+    PYXTransConnectorImpl::makeSureInitialized();
     if (!flags.testFlag(ekInitialize_NoFonts))
         setUpFonts(flags);
     s_initializationFlags = flags;
@@ -108,12 +121,17 @@ void uninitialize_PYXRuntime()
     tearDownFonts();
     PYXProxyManager::destroyInstance();
     PYXEncryptionManager::destroyInstance();
+    PYXStyleHints::destroyInstance();
+    Flags::destroyInstance();
     Enums::destroyInstance();
     PYXThisRunOnlySettings::destroyInstance();
     if (QSettings::defaultFormat() == PYXXmlSettings::format())
         QSettings::setDefaultFormat(QSettings::NativeFormat);
     PYXIconLoader::destroyInstance();
     PYXStandardIcons::destroyInstance();
+    NewIntegrationVersionChecker::destroyInstance();
+    PYXHelpConnectorImpl::destroyInstance();
+    PYXTransConnectorImpl::destroyInstance();
     PYXFileListImpl::destroyInstance();
 }
 

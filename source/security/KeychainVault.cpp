@@ -6,7 +6,6 @@
 #include "PYXByteArrayHelpers.h"
 #include "WipedValue.h"
 
-#include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QLockFile>
 #include <QtCore/QStandardPaths>
@@ -28,11 +27,6 @@ constexpr int TagSize = crypto_aead_xchacha20poly1305_ietf_ABYTES;
 constexpr int LongestAnswerMs = 10 * 60 * 1000;
 
 constexpr int KeySize = crypto_aead_xchacha20poly1305_ietf_KEYBYTES;
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("PYXRuntime::KeychainVault", text);
-}
 
 uchar *bytesOf(QByteArray &array, int offset = 0)
 {
@@ -57,11 +51,12 @@ QString fetchKey(const KeychainEntry &entry, QByteArray &key)
     QLockFile lock(lockPath());
     lock.setStaleLockTime(LongestAnswerMs);
     if (!lock.tryLock(entry.timeoutMs()))
-        return tr("Another program is holding the key in the system's secret store.");
+        return KeychainVault::tr("Another program is holding the key in the system's secret store.");
     QString error;
     switch (entry.read(key, error)) {
     case KeychainEntry::ekAnswer_Found:
-        return key.size() == KeySize ? QString() : tr("The key in the system's secret store is damaged.");
+        return key.size() == KeySize ? QString()
+                                     : KeychainVault::tr("The key in the system's secret store is damaged.");
     case KeychainEntry::ekAnswer_Failed:
         return error;
     default:

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QtCore/QByteArray>
+#include <QtCore/QCoreApplication>
 #include <QtCore/QString>
 
 #include <memory>
@@ -12,6 +13,7 @@ namespace PYXRuntime {
 /** A key of the system's secret store, and what it encrypts. Never opens where the library has none. */
 class KeychainVault final
 {
+    Q_DECLARE_TR_FUNCTIONS(PYXRuntime::KeychainVault)
     Q_DISABLE_COPY(KeychainVault)
 public:
     KeychainVault();

@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "KeychainVault.h"
 
-#include <QtCore/QCoreApplication>
-
 // For builds without QtKeychain or libsodium.
 
 namespace PYXRuntime {
@@ -23,8 +21,7 @@ bool KeychainVault::isSupported()
 
 QString KeychainVault::open(const QString &, int)
 {
-    return QCoreApplication::translate("PYXRuntime::KeychainVault",
-                                       "This program was built without the system's secret store.");
+    return tr("This program was built without the system's secret store.");
 }
 
 bool KeychainVault::isOpen() const

@@ -1,0 +1,52 @@
+// SPDX-FileCopyrightText: 2026 The PYXRuntime developers
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#include "EnumTables.h"
+
+#include "Enums.h"
+#include "Flags.h"
+#include "PYXApplicationInfoImpl.h"
+#include "PYXIFileList.h"
+#include "PYXRetainingFileSet.h"
+#include "PYXRuntime.h"
+#include "PYXSettings.h"
+#include "PYXSettingsTransfer.h"
+#include "PYXStrings.h"
+#include "PYXStyleHints.h"
+#include "PYXTracerBase.h"
+
+#include <algorithm>
+
+namespace PYXRuntime {
+namespace {
+
+/** The interface of these has no meta-object. */
+Enums::Keys specialDirs()
+{
+    Enums::Keys keys;
+    const QHash<QString, uint> &names = PYXApplicationInfoImpl::staticSpecialDirsEnumByName();
+    for (auto name = names.cbegin(); name != names.cend(); ++name)
+        keys.append({name.key(), name.value()});
+    std::sort(keys.begin(), keys.end(),
+              [](const auto &left, const auto &right) { return left.second < right.second; });
+    return keys;
+}
+
+template <typename... Types>
+void registerEnumerations()
+{
+    (Enums::registerEnumeration<Types>(), ...);
+}
+
+} // namespace
+
+void fillEnumTables()
+{
+    registerEnumerations<PYXStrings::eText, PYXIFileList::eFileType, PYXRetainingFileSet::eWeight,
+                         PYXSettings::ePurpose, PYXSettings::eThisRunOnlySettings,
+                         PYXSettingsTransfer::eSecrets, PYXStyleHints::eColor, PYXStyleHints::eIconSize,
+                         PYXTracerBase::eForm, PYXTracerBase::eLevel>();
+    Enums::registerEnumeration(QStringLiteral("PYXRuntime::PYXIApplicationInfo::eSpecialDir"), specialDirs());
+    Flags::registerFlags<ePYXInitializeFlags>();
+}
+
+} // namespace PYXRuntime
