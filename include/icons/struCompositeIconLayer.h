@@ -38,15 +38,15 @@ struct struIconIdModeState
 struct struCompositeIconLayer
 {
     uint iconId = 0; ///< the registered icon; only where @ref icon is empty
-    QIcon icon;
+    QIcon icon{};
     QRectF area{0, 0, 1, 1}; ///< where the layer is drawn, centred; the whole icon is the unit square
     qreal opacity = 1;       ///< 0...1
     /** How far around the layer's shape what lies below is erased, in sides of the icon; 0: nothing is. */
     qreal clearance = 0;
     /** The modes and states in which the layer is drawn; empty: all. */
-    QList<struModeState> shownIn;
+    QList<struModeState> shownIn{};
     /** The mode and state in which the layer is drawn where the icon is in another; the same if not here. */
-    QHash<struModeState, struModeState> drawnAs;
+    QHash<struModeState, struModeState> drawnAs{};
 };
 
 } // namespace PYXRuntime
