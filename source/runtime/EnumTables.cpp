@@ -5,6 +5,7 @@
 #include "Enums.h"
 #include "Flags.h"
 #include "PYXApplicationInfoImpl.h"
+#include "PYXIAppInternals.h"
 #include "PYXIFileList.h"
 #include "PYXRetainingFileSet.h"
 #include "PYXRuntime.h"
@@ -20,7 +21,14 @@
 namespace PYXRuntime {
 namespace {
 
-/** The interface of these has no meta-object. */
+// The interfaces of these have no meta-object.
+
+Enums::Keys appModes()
+{
+    return {{QStringLiteral("ekAppMode_Debug"), PYXIAppInternals::ekAppMode_Debug},
+            {QStringLiteral("ekAppMode_Expert"), PYXIAppInternals::ekAppMode_Expert}};
+}
+
 Enums::Keys specialDirs()
 {
     Enums::Keys keys;
@@ -46,6 +54,7 @@ void fillEnumTables()
                          PYXSettings::ePurpose, PYXSettings::eThisRunOnlySettings,
                          PYXSettingsTransfer::eSecrets, PYXSingleInstance::eResult, PYXStyleHints::eColor,
                          PYXStyleHints::eIconSize, PYXTracerBase::eForm, PYXTracerBase::eLevel>();
+    Enums::registerEnumeration(QStringLiteral("PYXRuntime::PYXIAppInternals::eAppMode"), appModes());
     Enums::registerEnumeration(QStringLiteral("PYXRuntime::PYXIApplicationInfo::eSpecialDir"), specialDirs());
     Flags::registerFlags<ePYXInitializeFlags>();
 }
