@@ -39,6 +39,25 @@
     </message>
 </context>
 <context>
+    <name>PYXRuntime::NewIntegrationVersionChecker</name>
+    <message>
+        <source>&lt;HTML&gt;&lt;TABLE&gt;&lt;TR&gt;&lt;TH&gt;Current version&lt;/TH&gt;&lt;TD&amp;nbsp;&lt;/TD&gt;&lt;TD&gt;%1&lt;/TD&gt;&lt;/TR&gt;&lt;TR&gt;&lt;TH&gt;Latest version&lt;/TH&gt;&lt;TD&amp;nbsp;&lt;/TD&gt;&lt;TD&gt;%2&lt;/TD&gt;&lt;/TR&gt;&lt;/TABLE&gt;&lt;P&gt;Location: %3&lt;/HTML&gt;</source>
+        <translation>&lt;HTML&gt;&lt;TABLE&gt;&lt;TR&gt;&lt;TH&gt;Version actuelle&lt;/TH&gt;&lt;TD&amp;nbsp;&lt;/TD&gt;&lt;TD&gt;%1&lt;/TD&gt;&lt;/TR&gt;&lt;TR&gt;&lt;TH&gt;Version la plus récente&lt;/TH&gt;&lt;TD&amp;nbsp;&lt;/TD&gt;&lt;TD&gt;%2&lt;/TD&gt;&lt;/TR&gt;&lt;/TABLE&gt;&lt;P&gt;Emplacement : %3&lt;/HTML&gt;</translation>
+    </message>
+    <message>
+        <source>%1 - Newer Version Found</source>
+        <translation>%1 - Nouvelle version disponible</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Ouvrir le dossier</translation>
+    </message>
+    <message>
+        <source>Ignore Version</source>
+        <translation>Ignorer cette version</translation>
+    </message>
+</context>
+<context>
     <name>PYXRuntime::NullEncryptionProvider</name>
     <message>
         <source>Null Encryption Provider</source>
