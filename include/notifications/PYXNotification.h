@@ -125,6 +125,8 @@ public:
     /** The state of the check box; at first true. */
     bool showAgain() const;
 
+    void setVisible(bool visible) override;
+
 protected:
     void showEvent(QShowEvent *event) override;
     void changeEvent(QEvent *event) override;
