@@ -133,6 +133,7 @@ protected:
 
 private:
     void _build();
+    void _translate();
     void _fitText();
     void _applyDefaultButton();
     void _sl_buttonBox_clicked(QAbstractButton *a_button);

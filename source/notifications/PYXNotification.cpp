@@ -230,8 +230,13 @@ void PYXNotification::setIcon(QMessageBox::Icon icon)
     m_bOwnPixmap = false;
     m_iconLabel->setPixmap(standardPixmap(icon));
     m_iconLabel->setVisible(icon != QMessageBox::NoIcon);
-    m_showAgainBox->setText(icon == QMessageBox::Question ? tr("Ask this question again")
-                                                          : tr("Show this message again"));
+    _translate();
+}
+
+void PYXNotification::_translate()
+{
+    m_showAgainBox->setText(m_icon == QMessageBox::Question ? tr("Ask this question again")
+                                                            : tr("Show this message again"));
 }
 
 void PYXNotification::setIconPixmap(const QPixmap &pixmap)
@@ -348,6 +353,8 @@ void PYXNotification::changeEvent(QEvent *event)
         if (!m_bOwnPixmap)
             m_iconLabel->setPixmap(standardPixmap(m_icon));
         _fitText();
+    } else if (event->type() == QEvent::LanguageChange) {
+        _translate();
     }
 }
 
