@@ -111,8 +111,8 @@ bool PYXPopupNotificationWidget::isFinished() const
 PopupContent PYXPopupNotificationWidget::_content() const
 {
     const QScreen *const usedScreen = screen();
-    const int width = usedScreen == nullptr ? QWIDGETSIZE_MAX : usedScreen->availableSize().width();
-    return PopupContent(m_text, m_pixmap, width * 3 / 4, this);
+    const QSize room = usedScreen == nullptr ? maximumSize() : usedScreen->availableSize();
+    return PopupContent(m_text, m_pixmap, room * 3 / 4, this);
 }
 
 QSize PYXPopupNotificationWidget::sizeHint() const

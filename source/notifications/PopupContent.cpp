@@ -12,9 +12,9 @@ namespace {
 
 constexpr int CharactersPerLine = 50;
 constexpr int MinimumCharactersPerLine = 8;
-constexpr std::size_t MaximumLines = 10;
+constexpr int MaximumLines = 10;
 /** More than fits; what is behind is not even looked at. */
-constexpr int MaximumCharacters = 4 * CharactersPerLine * int(MaximumLines);
+constexpr int MaximumCharacters = 4 * CharactersPerLine * MaximumLines;
 constexpr int MaximumPixmapLines = 5;
 const QChar Ellipsis(0x2026);
 
@@ -27,17 +27,18 @@ QColor mixed(const QColor &ground, const QColor &ink, double share)
 
 } // namespace
 
-PopupContent::PopupContent(const QString &text, const QPixmap &pixmap, int availableWidth,
-                           const QWidget *widget)
+PopupContent::PopupContent(const QString &text, const QPixmap &pixmap, QSize available, const QWidget *widget)
     : m_pixmap(pixmap.isNull() ? defaultPixmap(widget) : pixmap)
-    , m_lineHeight(widget->fontMetrics().lineSpacing())
+    , m_lineHeight(qMax(1, widget->fontMetrics().lineSpacing()))
     , m_margin(m_lineHeight * 2 / 3)
 {
     _fitPixmap(widget);
     const QFontMetrics metrics = widget->fontMetrics();
     const int beside = m_pixmapSize.width() + 3 * m_margin;
     m_maximumWidth = qMax(metrics.averageCharWidth() * MinimumCharactersPerLine,
-                          qMin(metrics.averageCharWidth() * CharactersPerLine, availableWidth - beside));
+                          qMin(metrics.averageCharWidth() * CharactersPerLine, available.width() - beside));
+    const int roomForLines = (available.height() - 2 * m_margin) / m_lineHeight;
+    m_maximumLines = std::size_t(qBound(1, roomForLines, MaximumLines));
     _breakLines(text, widget);
     const int gap = m_textSize.isEmpty() ? 0 : m_margin;
     m_size = QSize(m_pixmapSize.width() + gap + m_textSize.width(),
@@ -97,7 +98,7 @@ bool PopupContent::_breakParagraph(const QString &paragraph, const QWidget *widg
     for (QTextLine line = layout.createLine(); line.isValid() && bMore; line = layout.createLine()) {
         line.setLineWidth(m_maximumWidth);
         const int end = line.textStart() + line.textLength();
-        bMore = m_lines.size() + 1 < MaximumLines;
+        bMore = m_lines.size() + 1 < m_maximumLines;
         if (bMore || (isLast && end == paragraph.size()))
             _append(paragraph.mid(line.textStart(), line.textLength()).trimmed(), widget);
         else

@@ -19,10 +19,10 @@ class PopupContent final
 public:
     /**
      * @param pixmap if null, the default one
-     * @param availableWidth what all of it may take
+     * @param available what all of it may take
      * @param widget is not kept
      */
-    PopupContent(const QString &text, const QPixmap &pixmap, int availableWidth, const QWidget *widget);
+    PopupContent(const QString &text, const QPixmap &pixmap, QSize available, const QWidget *widget);
 
     QSize size() const { return m_size; }
     /** The lines as they are shown, the last one elided where the text was too long. */
@@ -57,6 +57,7 @@ private:
     int m_lineHeight;
     int m_margin;
     int m_maximumWidth;
+    std::size_t m_maximumLines;
 };
 
 } // namespace PYXRuntime

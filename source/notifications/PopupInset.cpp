@@ -32,7 +32,7 @@ void PopupInset::setOpacity(qreal opacity)
 
 PopupContent PopupInset::_content() const
 {
-    return PopupContent(m_text, m_pixmap, parentWidget()->width(), this);
+    return PopupContent(m_text, m_pixmap, parentWidget()->size(), this);
 }
 
 void PopupInset::_place()
