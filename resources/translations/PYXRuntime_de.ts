@@ -150,6 +150,17 @@
     </message>
 </context>
 <context>
+    <name>PYXRuntime::PYXNotification</name>
+    <message>
+        <source>Ask this question again</source>
+        <translation>Diese Frage wieder stellen</translation>
+    </message>
+    <message>
+        <source>Show this message again</source>
+        <translation>Diese Meldung wieder anzeigen</translation>
+    </message>
+</context>
+<context>
     <name>PYXRuntime::PYXSettingsTransfer</name>
     <message>
         <source>The settings cannot be written to &quot;%1&quot;: %2</source>
