@@ -63,12 +63,6 @@ const QLatin1String DarkKey("MainWindow/DarkColours");
 const QLatin1String RecordingsFilter("Recordings");
 const QLatin1String TablesFilter("Tables");
 
-constexpr int TickInterval = 40; // in ms
-// A tick that takes longer would make the window sluggish: the recording is played slower then.
-constexpr int LongestTick = 30;         // in ms
-constexpr double LongestStep = 0.25;    // in seconds of wall clock
-constexpr double ProcessingStep = 0.02; // in seconds of the recording
-
 // How the window is divided at first.
 constexpr double TableShare = 0.62;
 constexpr double DockShare = 0.27;
@@ -101,8 +95,8 @@ MainWindow::MainWindow(QWidget *parent)
     _createHelpMenu();
     _createStatusBar();
     resize(1280, 800);
-    m_playTimer.setInterval(TickInterval);
-    connect(&m_playTimer, &QTimer::timeout, this, &MainWindow::_sl_playTimer_timeout);
+    connect(&m_playback, &Playback::si_advanced, this, &MainWindow::_showDetections);
+    connect(&m_playback, &Playback::si_atEnd, this, [this] { setPlaying(false); });
 }
 
 MainWindow::~MainWindow() = default;
@@ -178,7 +172,7 @@ void MainWindow::_createActions()
     m_playAction = new QAction(this);
     m_playAction->setObjectName(QStringLiteral("playAction"));
     m_playAction->setShortcut(Qt::Key_Space);
-    connect(m_playAction, &QAction::triggered, this, [this] { setPlaying(!m_playTimer.isActive()); });
+    connect(m_playAction, &QAction::triggered, this, [this] { setPlaying(!m_playback.isRunning()); });
 
     m_recordAction = new QAction(symbolIcon(ekSymbol_Record), tr("&Record Detections"), this);
     m_recordAction->setObjectName(QStringLiteral("recordAction"));
@@ -189,6 +183,8 @@ void MainWindow::_createActions()
     m_speedBox = new QComboBox;
     for (const double speed : {0.5, 1.0, 2.0, 4.0, 8.0, 16.0})
         m_speedBox->addItem(tr("%1\u00d7").arg(speed), speed);
+    connect(m_speedBox, qOverload<int>(&QComboBox::currentIndexChanged), this,
+            [this] { m_playback.setSpeed(m_speedBox->currentData().toDouble()); });
     m_speedBox->setCurrentIndex(1);
     m_speedBox->setToolTip(tr("Speed"));
     m_speedBox->setAccessibleName(tr("Speed"));
@@ -309,6 +305,7 @@ void MainWindow::_setSource(std::unique_ptr<SampleSource> source)
     if (m_recorder)
         m_recorder->setMonitor(nullptr); // lets go of the samples before their pool goes
     m_monitor = std::make_unique<SignalMonitor>(std::move(source));
+    m_playback.setMonitor(m_monitor.get());
     m_poolDock->setPool(&m_monitor->pool());
     if (m_recorder)
         m_recorder->setMonitor(m_monitor.get());
@@ -333,12 +330,10 @@ void MainWindow::setPlaying(bool bPlaying)
         _restart();
         return;
     }
-    if (bPlaying) {
-        m_sinceTick.start();
-        m_playTimer.start();
-    } else {
-        m_playTimer.stop();
-    }
+    if (bPlaying)
+        m_playback.start();
+    else
+        m_playback.stop();
     m_playAction->setText(bPlaying ? tr("&Pause") : tr("&Play"));
     m_playAction->setIcon(symbolIcon(bPlaying ? ekSymbol_Pause : ekSymbol_Play));
     _showState();
@@ -414,21 +409,6 @@ void MainWindow::_sl_detectorAction_triggered()
     m_monitor->setDetectorParameters(m_detectorParameters);
     if (m_bKeepSettings)
         m_detectorParameters.save();
-}
-
-void MainWindow::_sl_playTimer_timeout()
-{
-    const double elapsed = std::min(double(m_sinceTick.restart()) / 1000, LongestStep);
-    double due = elapsed * m_speedBox->currentData().toDouble();
-    while (due > 0 && m_sinceTick.elapsed() < LongestTick) {
-        const double step = std::min(due, ProcessingStep);
-        due -= step;
-        if (!m_monitor->advance(step)) {
-            setPlaying(false);
-            break;
-        }
-    }
-    _showDetections();
 }
 
 void MainWindow::_showSpectrum(const struSpectrum &spectrum)

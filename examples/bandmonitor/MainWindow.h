@@ -4,11 +4,10 @@
 
 #include "ColourMap.h"
 #include "DetectorParameters.h"
+#include "Playback.h"
 #include "SampleSource.h"
 #include "Spectrum.h"
 
-#include <QtCore/QElapsedTimer>
-#include <QtCore/QTimer>
 #include <QtWidgets/QMainWindow>
 
 #include <memory>
@@ -73,13 +72,11 @@ private:
     void _sl_openUrlAction_triggered();
     void _sl_saveAction_triggered();
     void _sl_detectorAction_triggered();
-    void _sl_playTimer_timeout();
 
     std::unique_ptr<SignalMonitor> m_monitor;
     std::unique_ptr<DetectionRecorder> m_recorder; ///< only while it records
     QString m_path;                                ///< of the recording; empty for the own band
-    QTimer m_playTimer;
-    QElapsedTimer m_sinceTick;
+    Playback m_playback{this};
     bool m_bArranged = false; ///< whether the docks have got their first sizes
     bool m_bKeepSettings = false;
     struDetectorParameters m_detectorParameters;

@@ -73,6 +73,36 @@
     </message>
 </context>
 <context>
+    <name>PYXRuntime::PYXAppInternalsImpl</name>
+    <message>
+        <source>Application is running in DEBUG MODE</source>
+        <translation>Die Anwendung läuft im DEBUG-MODUS</translation>
+    </message>
+    <message>
+        <source>Application is running in EXPERT MODE</source>
+        <translation>Die Anwendung läuft im EXPERTENMODUS</translation>
+    </message>
+</context>
+<context>
+    <name>PYXRuntime::PYXAppInternalsImpl_private</name>
+    <message>
+        <source>++debug mode activated</source>
+        <translation>++Debug-Modus eingeschaltet</translation>
+    </message>
+    <message>
+        <source>++debug mode deactivated</source>
+        <translation>++Debug-Modus ausgeschaltet</translation>
+    </message>
+    <message>
+        <source>++expert mode activated</source>
+        <translation>++Expertenmodus eingeschaltet</translation>
+    </message>
+    <message>
+        <source>++expert mode deactivated</source>
+        <translation>++Expertenmodus ausgeschaltet</translation>
+    </message>
+</context>
+<context>
     <name>PYXRuntime::PYXBroker</name>
     <message>
         <source>&lt;undeclared interface&gt;</source>
@@ -117,6 +147,41 @@
     <message>
         <source>The settings file &quot;%1&quot; cannot be written.</source>
         <translation>Die Einstellungsdatei „%1“ kann nicht geschrieben werden.</translation>
+    </message>
+</context>
+<context>
+    <name>PYXRuntime::PYXSingleInstance</name>
+    <message>
+        <source>Another user&apos;s program stands in for this application.</source>
+        <translation>Das Programm eines anderen Benutzers gibt sich als diese Anwendung aus.</translation>
+    </message>
+    <message>
+        <source>Other instances cannot be listened to: %1</source>
+        <translation>Andere Instanzen können nicht gehört werden: %1</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be locked.</source>
+        <translation>Die Datei „%1“ kann nicht gesperrt werden.</translation>
+    </message>
+    <message>
+        <source>The path &quot;%1&quot; is too long for a socket.</source>
+        <translation>Der Pfad „%1“ ist zu lang für einen Socket.</translation>
+    </message>
+    <message>
+        <source>The running instance does not accept the arguments.</source>
+        <translation>Die laufende Instanz nimmt die Argumente nicht an.</translation>
+    </message>
+    <message>
+        <source>The running instance does not answer.</source>
+        <translation>Die laufende Instanz antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>There are too many arguments.</source>
+        <translation>Es sind zu viele Argumente.</translation>
+    </message>
+    <message>
+        <source>There is no directory for what only lasts as long as the session.</source>
+        <translation>Es gibt kein Verzeichnis für das, was nur so lange besteht wie die Sitzung.</translation>
     </message>
 </context>
 <context>

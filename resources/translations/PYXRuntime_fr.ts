@@ -73,6 +73,36 @@
     </message>
 </context>
 <context>
+    <name>PYXRuntime::PYXAppInternalsImpl</name>
+    <message>
+        <source>Application is running in DEBUG MODE</source>
+        <translation>L’application s’exécute en MODE DÉBOGAGE</translation>
+    </message>
+    <message>
+        <source>Application is running in EXPERT MODE</source>
+        <translation>L’application s’exécute en MODE EXPERT</translation>
+    </message>
+</context>
+<context>
+    <name>PYXRuntime::PYXAppInternalsImpl_private</name>
+    <message>
+        <source>++debug mode activated</source>
+        <translation>++mode débogage activé</translation>
+    </message>
+    <message>
+        <source>++debug mode deactivated</source>
+        <translation>++mode débogage désactivé</translation>
+    </message>
+    <message>
+        <source>++expert mode activated</source>
+        <translation>++mode expert activé</translation>
+    </message>
+    <message>
+        <source>++expert mode deactivated</source>
+        <translation>++mode expert désactivé</translation>
+    </message>
+</context>
+<context>
     <name>PYXRuntime::PYXBroker</name>
     <message>
         <source>&lt;undeclared interface&gt;</source>
@@ -117,6 +147,41 @@
     <message>
         <source>The settings file &quot;%1&quot; cannot be written.</source>
         <translation>Le fichier de paramètres « %1 » ne peut pas être enregistré.</translation>
+    </message>
+</context>
+<context>
+    <name>PYXRuntime::PYXSingleInstance</name>
+    <message>
+        <source>Another user&apos;s program stands in for this application.</source>
+        <translation>Le programme d’un autre utilisateur se fait passer pour cette application.</translation>
+    </message>
+    <message>
+        <source>Other instances cannot be listened to: %1</source>
+        <translation>Impossible d’écouter les autres instances : %1</translation>
+    </message>
+    <message>
+        <source>The file &quot;%1&quot; cannot be locked.</source>
+        <translation>Le fichier « %1 » ne peut pas être verrouillé.</translation>
+    </message>
+    <message>
+        <source>The path &quot;%1&quot; is too long for a socket.</source>
+        <translation>Le chemin « %1 » est trop long pour un socket.</translation>
+    </message>
+    <message>
+        <source>The running instance does not accept the arguments.</source>
+        <translation>L’instance en cours n’accepte pas les arguments.</translation>
+    </message>
+    <message>
+        <source>The running instance does not answer.</source>
+        <translation>L’instance en cours ne répond pas.</translation>
+    </message>
+    <message>
+        <source>There are too many arguments.</source>
+        <translation>Il y a trop d’arguments.</translation>
+    </message>
+    <message>
+        <source>There is no directory for what only lasts as long as the session.</source>
+        <translation>Il n’y a pas de répertoire pour ce qui ne dure que le temps de la session.</translation>
     </message>
 </context>
 <context>

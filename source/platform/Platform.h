@@ -4,6 +4,7 @@
 
 #include <QtCore/QByteArray>
 #include <QtCore/QString>
+#include <QtCore/QVector>
 
 /**
  * Every call to an operating system, behind small functions. Each has two sides: Platform_win.cpp and
@@ -87,6 +88,12 @@ bool doLinesEndWithCarriageReturn();
 /** Tells the shell that files with this suffix are XML texts; does nothing where there is no such registry.
  */
 void registerXmlFileType(const QString &suffix);
+
+/**
+ * The languages, as Windows numbers them, in which the system looks for a resource of a file: those of the
+ * calling thread, the user and the system, the best first. None where the system has no such numbers.
+ */
+QVector<quint16> resourceLanguages();
 
 /** Gives memory that was freed, but is still kept by the heap, back to the system. May take some 10 ms. */
 void returnFreedMemory();

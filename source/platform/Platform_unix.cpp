@@ -179,6 +179,11 @@ bool doLinesEndWithCarriageReturn()
 
 void registerXmlFileType(const QString &) {}
 
+QVector<quint16> resourceLanguages()
+{
+    return {};
+}
+
 void returnFreedMemory()
 {
 #ifdef __GLIBC__

@@ -177,6 +177,14 @@ void registerXmlFileType(const QString &suffix)
     classes.endGroup();
 }
 
+QVector<quint16> resourceLanguages()
+{
+    const LANGID user = GetUserDefaultLangID();
+    const LANGID system = GetSystemDefaultLangID();
+    return {LANGIDFROMLCID(GetThreadLocale()), user, quint16(PRIMARYLANGID(user)), system,
+            quint16(PRIMARYLANGID(system))};
+}
+
 void returnFreedMemory()
 {
     _heapmin();

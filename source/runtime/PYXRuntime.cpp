@@ -7,12 +7,16 @@
 #include "EnumTables.h"
 #include "Flags.h"
 #include "InitializationCount.h"
+#include "NewIntegrationVersionChecker.h"
 #include "PYXEncryptionManager.h"
 #include "PYXFileListImpl.h"
 #include "PYXHelpConnectorImpl.h"
+#include "PYXIconLoader.h"
 #include "PYXNetworkEntry.h"
+#include "PYXPopupNotification.h"
 #include "PYXProxyManager.h"
 #include "PYXRuntimeCenter.h"
+#include "PYXStandardIcons.h"
 #include "PYXStatusHash.h"
 #include "PYXStringPool.h"
 #include "PYXStyleHints.h"
@@ -90,6 +94,7 @@ bool initialize_PYXRuntime(ePYXInitializeFlags flags)
     Flags::makeSureInitialized();
     fillEnumTables();
     PYXStyleHints::makeSureInitialized();
+    PYXPopupNotification::makeSureInitialized();
     PYXEncryptionManager::makeSureInitialized();
     PYXProxyManager::makeSureInitialized();
     PYXStatusHash::registerMetaType();
@@ -118,12 +123,16 @@ void uninitialize_PYXRuntime()
     tearDownFonts();
     PYXProxyManager::destroyInstance();
     PYXEncryptionManager::destroyInstance();
+    PYXPopupNotification::destroyInstance();
     PYXStyleHints::destroyInstance();
     Flags::destroyInstance();
     Enums::destroyInstance();
     PYXThisRunOnlySettings::destroyInstance();
     if (QSettings::defaultFormat() == PYXXmlSettings::format())
         QSettings::setDefaultFormat(QSettings::NativeFormat);
+    PYXIconLoader::destroyInstance();
+    PYXStandardIcons::destroyInstance();
+    NewIntegrationVersionChecker::destroyInstance();
     PYXHelpConnectorImpl::destroyInstance();
     PYXTransConnectorImpl::destroyInstance();
     PYXFileListImpl::destroyInstance();

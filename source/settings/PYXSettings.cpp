@@ -6,6 +6,7 @@
 #include "OpenFileRetry.h"
 #include "PYXStatusHash.h"
 #include "PYXThisRunOnlySettings.h"
+#include "SeenStates.h"
 #include "SettingsSubTrees.h"
 #include "StoreFailures.h"
 
@@ -147,6 +148,7 @@ bool PYXSettings::event(QEvent *event)
         return QSettings::event(event);
     const QSettings::Status before = status();
     EmptyLock::remove(fileName());
+    SeenStates::discloseChange(fileName());
     OpenFileRetry::save(*this);
     const bool bHandled = QSettings::event(event);
     StoreFailures::noteSaved(*this, before);

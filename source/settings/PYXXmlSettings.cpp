@@ -4,6 +4,7 @@
 
 #include "DamagedFileKeeper.h"
 #include "Platform.h"
+#include "SeenStates.h"
 #include "WatchedStores.h"
 #include "XmlSettingsReader.h"
 #include "XmlSettingsWriter.h"
@@ -20,19 +21,27 @@ const QLatin1String FileSuffix("PYXXml");
 
 bool readOrKeep(QIODevice &device, QSettings::SettingsMap &map)
 {
+    auto *const file = qobject_cast<QFileDevice *>(&device);
+    if (file != nullptr)
+        SeenStates::noteRead(*file);
     if (XmlSettingsReader::read(device, map)) {
         WatchedStores::noteRead(device, map);
         return true;
     }
-    if (auto *const file = qobject_cast<QFileDevice *>(&device))
+    if (file != nullptr)
         DamagedFileKeeper::keep(*file);
     return false;
 }
 
 bool write(QIODevice &device, const QSettings::SettingsMap &map)
 {
+    auto *const file = qobject_cast<QFileDevice *>(&device);
+    if (file != nullptr && !SeenStates::mayReplace(file->fileName()))
+        return false;
     if (!XmlSettingsWriter::write(device, map))
         return false;
+    if (file != nullptr)
+        SeenStates::noteWritten(*file);
     WatchedStores::noteWritten(device, map);
     return true;
 }
