@@ -39,6 +39,25 @@
     </message>
 </context>
 <context>
+    <name>PYXRuntime::NewIntegrationVersionChecker</name>
+    <message>
+        <source>&lt;HTML&gt;&lt;TABLE&gt;&lt;TR&gt;&lt;TH&gt;Current version&lt;/TH&gt;&lt;TD&amp;nbsp;&lt;/TD&gt;&lt;TD&gt;%1&lt;/TD&gt;&lt;/TR&gt;&lt;TR&gt;&lt;TH&gt;Latest version&lt;/TH&gt;&lt;TD&amp;nbsp;&lt;/TD&gt;&lt;TD&gt;%2&lt;/TD&gt;&lt;/TR&gt;&lt;/TABLE&gt;&lt;P&gt;Location: %3&lt;/HTML&gt;</source>
+        <translation>&lt;HTML&gt;&lt;TABLE&gt;&lt;TR&gt;&lt;TH&gt;Installierte Version&lt;/TH&gt;&lt;TD&amp;nbsp;&lt;/TD&gt;&lt;TD&gt;%1&lt;/TD&gt;&lt;/TR&gt;&lt;TR&gt;&lt;TH&gt;Neueste Version&lt;/TH&gt;&lt;TD&amp;nbsp;&lt;/TD&gt;&lt;TD&gt;%2&lt;/TD&gt;&lt;/TR&gt;&lt;/TABLE&gt;&lt;P&gt;Ort: %3&lt;/HTML&gt;</translation>
+    </message>
+    <message>
+        <source>%1 - Newer Version Found</source>
+        <translation>%1 – Neuere Version gefunden</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Ordner öffnen</translation>
+    </message>
+    <message>
+        <source>Ignore Version</source>
+        <translation>Version ignorieren</translation>
+    </message>
+</context>
+<context>
     <name>PYXRuntime::NullEncryptionProvider</name>
     <message>
         <source>Null Encryption Provider</source>
@@ -128,6 +147,17 @@
     <message>
         <source>All files</source>
         <translation>Alle Dateien</translation>
+    </message>
+</context>
+<context>
+    <name>PYXRuntime::PYXNotification</name>
+    <message>
+        <source>Ask this question again</source>
+        <translation>Diese Frage wieder stellen</translation>
+    </message>
+    <message>
+        <source>Show this message again</source>
+        <translation>Diese Meldung wieder anzeigen</translation>
     </message>
 </context>
 <context>
