@@ -12,11 +12,11 @@
     <name>PYXRuntime::KeychainEntry</name>
     <message>
         <source>It has not answered in time.</source>
-        <translation>Il n&apos;a pas répondu à temps.</translation>
+        <translation>Il n’a pas répondu à temps.</translation>
     </message>
     <message>
         <source>The system&apos;s secret store cannot be used: %1</source>
-        <translation>Le trousseau du système ne peut pas être utilisé : %1</translation>
+        <translation>Le trousseau du système ne peut pas être utilisé : %1</translation>
     </message>
 </context>
 <context>
@@ -42,11 +42,11 @@
     <name>PYXRuntime::NewIntegrationVersionChecker</name>
     <message>
         <source>&lt;HTML&gt;&lt;TABLE&gt;&lt;TR&gt;&lt;TH&gt;Current version&lt;/TH&gt;&lt;TD&amp;nbsp;&lt;/TD&gt;&lt;TD&gt;%1&lt;/TD&gt;&lt;/TR&gt;&lt;TR&gt;&lt;TH&gt;Latest version&lt;/TH&gt;&lt;TD&amp;nbsp;&lt;/TD&gt;&lt;TD&gt;%2&lt;/TD&gt;&lt;/TR&gt;&lt;/TABLE&gt;&lt;P&gt;Location: %3&lt;/HTML&gt;</source>
-        <translation>&lt;HTML&gt;&lt;TABLE&gt;&lt;TR&gt;&lt;TH&gt;Version actuelle&lt;/TH&gt;&lt;TD&amp;nbsp;&lt;/TD&gt;&lt;TD&gt;%1&lt;/TD&gt;&lt;/TR&gt;&lt;TR&gt;&lt;TH&gt;Version la plus récente&lt;/TH&gt;&lt;TD&amp;nbsp;&lt;/TD&gt;&lt;TD&gt;%2&lt;/TD&gt;&lt;/TR&gt;&lt;/TABLE&gt;&lt;P&gt;Emplacement : %3&lt;/HTML&gt;</translation>
+        <translation>&lt;HTML&gt;&lt;TABLE&gt;&lt;TR&gt;&lt;TH&gt;Version installée&lt;/TH&gt;&lt;TD&amp;nbsp;&lt;/TD&gt;&lt;TD&gt;%1&lt;/TD&gt;&lt;/TR&gt;&lt;TR&gt;&lt;TH&gt;Dernière version&lt;/TH&gt;&lt;TD&amp;nbsp;&lt;/TD&gt;&lt;TD&gt;%2&lt;/TD&gt;&lt;/TR&gt;&lt;/TABLE&gt;&lt;P&gt;Emplacement : %3&lt;/HTML&gt;</translation>
     </message>
     <message>
         <source>%1 - Newer Version Found</source>
-        <translation>%1 - Nouvelle version disponible</translation>
+        <translation>%1 – Nouvelle version disponible</translation>
     </message>
     <message>
         <source>Open Folder</source>
@@ -68,15 +68,15 @@
     <name>PYXRuntime::PYXAddressEdit</name>
     <message>
         <source>Replace by Address from Clipboard</source>
-        <translation>Remplacer par l&apos;adresse du presse-papiers</translation>
+        <translation>Remplacer par l’adresse du presse-papiers</translation>
     </message>
     <message>
         <source>IPv4 address: four numbers from 0 to 255 with points between</source>
-        <translation>Adresse IPv4 : quatre nombres de 0 à 255 séparés par des points</translation>
+        <translation>Adresse IPv4 : quatre nombres de 0 à 255 séparés par des points</translation>
     </message>
     <message>
         <source>IPv6 address: eight groups of up to four hexadecimal digits with colons between; &quot;::&quot; stands for groups of zeros</source>
-        <translation>Adresse IPv6 : huit groupes d&apos;au plus quatre chiffres hexadécimaux séparés par des deux-points ; « :: » remplace des groupes de zéros</translation>
+        <translation>Adresse IPv6 : huit groupes d’au plus quatre chiffres hexadécimaux séparés par des deux-points ; « :: » remplace des groupes de zéros</translation>
     </message>
     <message>
         <source>IPv4 or IPv6 address, such as 192.168.1.10 or fd00::10</source>
@@ -133,13 +133,13 @@
     <message numerus="yes">
         <source>%n byte(s) could not be written.</source>
         <translation>
-            <numerusform>%n octet n&apos;a pas pu être écrit.</numerusform>
-            <numerusform>%n octets n&apos;ont pas pu être écrits.</numerusform>
+            <numerusform>%n octet n’a pas pu être écrit.</numerusform>
+            <numerusform>%n octets n’ont pas pu être écrits.</numerusform>
         </translation>
     </message>
     <message>
         <source>The file is gone.</source>
-        <translation>Le fichier n&apos;existe plus.</translation>
+        <translation>Le fichier n’existe plus.</translation>
     </message>
 </context>
 <context>
@@ -153,30 +153,30 @@
     <name>PYXRuntime::PYXNotification</name>
     <message>
         <source>Ask this question again</source>
-        <translation>Poser à nouveau cette question</translation>
+        <translation>Poser de nouveau cette question</translation>
     </message>
     <message>
         <source>Show this message again</source>
-        <translation>Afficher à nouveau ce message</translation>
+        <translation>Afficher de nouveau ce message</translation>
     </message>
 </context>
 <context>
     <name>PYXRuntime::PYXSettingsTransfer</name>
     <message>
         <source>The settings cannot be written to &quot;%1&quot;: %2</source>
-        <translation>Les paramètres ne peuvent pas être enregistrés dans « %1 » : %2</translation>
+        <translation>Les paramètres ne peuvent pas être enregistrés dans « %1 » : %2</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; cannot be opened: %2</source>
-        <translation>Le fichier « %1 » ne peut pas être ouvert : %2</translation>
+        <translation>Le fichier « %1 » ne peut pas être ouvert : %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no settings file, or is damaged.</source>
-        <translation>« %1 » n&apos;est pas un fichier de paramètres ou est endommagé.</translation>
+        <translation>« %1 » n’est pas un fichier de paramètres ou est endommagé.</translation>
     </message>
     <message>
         <source>The settings file &quot;%1&quot; cannot be written.</source>
-        <translation>Le fichier de paramètres « %1 » ne peut pas être enregistré.</translation>
+        <translation>Le fichier de paramètres « %1 » ne peut pas être enregistré.</translation>
     </message>
 </context>
 <context>
@@ -187,15 +187,15 @@
     </message>
     <message>
         <source>Other instances cannot be listened to: %1</source>
-        <translation>Impossible d&apos;écouter les autres instances : %1</translation>
+        <translation>Impossible d’écouter les autres instances : %1</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; cannot be locked.</source>
-        <translation>Le fichier « %1 » ne peut pas être verrouillé.</translation>
+        <translation>Le fichier « %1 » ne peut pas être verrouillé.</translation>
     </message>
     <message>
         <source>The path &quot;%1&quot; is too long for a socket.</source>
-        <translation>Le chemin « %1 » est trop long pour un socket.</translation>
+        <translation>Le chemin « %1 » est trop long pour un socket.</translation>
     </message>
     <message>
         <source>The running instance does not accept the arguments.</source>
@@ -225,11 +225,11 @@
     <name>PYXRuntime::ProxyConfiguration</name>
     <message>
         <source>Proxy Configuration: restore failed</source>
-        <translation>Configuration du proxy : échec de la restauration</translation>
+        <translation>Configuration du proxy : échec de la restauration</translation>
     </message>
     <message>
         <source>Proxy Configuration: password was encrypted with different encryption and might not decrypt properly</source>
-        <translation>Configuration du proxy : le mot de passe a été chiffré par une autre méthode et risque de ne pas pouvoir être déchiffré correctement</translation>
+        <translation>Configuration du proxy : le mot de passe a été chiffré par une autre méthode et risque de ne pas pouvoir être déchiffré correctement</translation>
     </message>
 </context>
 <context>
@@ -256,7 +256,7 @@
     </message>
     <message>
         <source>Sample rate</source>
-        <translation>Fréquence d&apos;échantillonnage</translation>
+        <translation>Fréquence d’échantillonnage</translation>
     </message>
     <message>
         <source>Level</source>

@@ -12,17 +12,19 @@
 #include "PYXSettings.h"
 #include "PYXSettingsTransfer.h"
 #include "PYXSingleInstance.h"
+#include "PYXStandardIconIds.h"
 #include "PYXStrings.h"
 #include "PYXStyleHints.h"
 #include "PYXTracerBase.h"
+#include "PYXWinResVersion.h"
+#include "QIconHelpers.h"
 
 #include <algorithm>
 
 namespace PYXRuntime {
 namespace {
 
-// The interfaces of these have no meta-object.
-
+// The interfaces of these two have no meta-object.
 Enums::Keys appModes()
 {
     return {{QStringLiteral("ekAppMode_Debug"), PYXIAppInternals::ekAppMode_Debug},
@@ -52,11 +54,13 @@ void fillEnumTables()
 {
     registerEnumerations<PYXStrings::eText, PYXIFileList::eFileType, PYXRetainingFileSet::eWeight,
                          PYXSettings::ePurpose, PYXSettings::eThisRunOnlySettings,
-                         PYXSettingsTransfer::eSecrets, PYXSingleInstance::eResult, PYXStyleHints::eColor,
-                         PYXStyleHints::eIconSize, PYXTracerBase::eForm, PYXTracerBase::eLevel>();
-    Enums::registerEnumeration(QStringLiteral("PYXRuntime::PYXIAppInternals::eAppMode"), appModes());
+                         PYXSettingsTransfer::eSecrets, PYXSingleInstance::eResult,
+                         PYXStandardIconIds::eStandardIcon, PYXStyleHints::eColor, PYXStyleHints::eIconSize,
+                         PYXTracerBase::eForm, PYXTracerBase::eLevel, PYXWinResVersion::eVersionType>();
     Enums::registerEnumeration(QStringLiteral("PYXRuntime::PYXIApplicationInfo::eSpecialDir"), specialDirs());
     Flags::registerFlags<ePYXInitializeFlags>();
+    Flags::registerFlags<QIconHelpers::eOverlayRegionFlags>();
+    Flags::registerFlags(QStringLiteral("PYXRuntime::PYXIAppInternals::eAppMode"), appModes());
 }
 
 } // namespace PYXRuntime
