@@ -11,6 +11,7 @@
 #include <memory>
 
 class QAbstractButton;
+class QAction;
 class QTreeWidgetItem;
 
 namespace PYXRuntime {
@@ -94,7 +95,6 @@ private Q_SLOTS:
     void _sl_ButtonBoxPage_clicked(QAbstractButton *a_button);
     void _sl_ButtonBoxDialog_clicked(QAbstractButton *a_button);
     void _sl_SearchLine_textChanged(const QString &a_text);
-    void _sl_SearchLine_returnPressed();
 
 private:
     struct struModificationState;
@@ -115,21 +115,21 @@ private:
     void _storeWindow(PYXSettings &settings) const;
 
     void _showItem(QTreeWidgetItem *item);
+    bool _keyInSearchLine(const QKeyEvent &event);
     struModificationState _checkModificationState() const;
-    void _updateButtons();
     bool _verifyItem(QTreeWidgetItem *item, QString &errors) const;
     bool _verifyAll(QString &errors) const;
     void _showErrors(const QString &errors);
 
     void _applyCurrentPage();
     bool _applyAll();
-    bool _applyPage(PYXSettingsHandlerWidget *page);
+    bool _applyChanges(PYXSettingsHandlerWidget *page);
     void _syncStores();
     void _refill(const QList<PYXSettingsHandlerWidget *> &pages, PageAction refill);
     void _ok();
     void _close();
     bool _discard();
-    void _help();
+    QAction *_helpAction() const;
 
     const std::unique_ptr<SettingsDialogForm> m_form;
     PYXSettings *m_settings = nullptr; ///< null outside a run, as the others
@@ -138,7 +138,6 @@ private:
     PYXSettings *m_sharedDefaults = nullptr;
     bool m_bClosing = false;
     bool m_bCollectingChanges = false; ///< the buttons are brought up to date once, at the end
-    bool m_bPlacedByUser = false;
     QList<QTreeWidgetItem *> m_categories;
     QMap<QTreeWidgetItem *, PYXSettingsHandlerWidget *> m_pages;
 };
