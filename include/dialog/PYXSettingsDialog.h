@@ -86,8 +86,10 @@ protected:
     void showEvent(QShowEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private Q_SLOTS:
+    void _sl_orderFocus();
     void _sl_pageCleanStateChanged();
     void _sl_page_destroyed(QObject *a_page);
     void _sl_SettingsTree_currentItemChanged(QTreeWidgetItem *a_current, QTreeWidgetItem *a_previous);

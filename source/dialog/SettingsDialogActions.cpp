@@ -343,8 +343,21 @@ void PYXSettingsDialog::closeEvent(QCloseEvent *event)
 void PYXSettingsDialog::showEvent(QShowEvent *event)
 {
     QDialog::showEvent(event);
-    m_form->orderFocus();
+    _sl_orderFocus();
     m_form->tree->setFocus(Qt::OtherFocusReason);
+}
+
+void PYXSettingsDialog::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    // Button boxes lay themselves out anew for another style. Queued: theirs may come after this event.
+    if (event->type() == QEvent::StyleChange)
+        QMetaObject::invokeMethod(this, &PYXSettingsDialog::_sl_orderFocus, Qt::QueuedConnection);
+}
+
+void PYXSettingsDialog::_sl_orderFocus()
+{
+    m_form->orderFocus();
 }
 
 void PYXSettingsDialog::keyPressEvent(QKeyEvent *event)

@@ -223,11 +223,13 @@ void SettingsDialogForm::filter(const QString &words,
 void SettingsDialogForm::orderFocus() const
 {
     QWidget *last = lastInFocusChain(m_dialog);
-    for (const QDialogButtonBox *const box : {pageBox, dialogBox}) {
+    for (QDialogButtonBox *const box : {pageBox, dialogBox}) {
+        // It would hand the focus to its first button before any page has its turn.
+        box->setFocusProxy(nullptr);
         const QLayout *const layout = box->layout();
         for (int i = 0; i < layout->count(); ++i) {
             QWidget *const button = layout->itemAt(i)->widget();
-            if (button == nullptr || button == last)
+            if (button == nullptr)
                 continue;
             QWidget::setTabOrder(last, button);
             last = button;
