@@ -81,6 +81,12 @@ public:
 template <typename Control>
 Control *control(const QWidget &page, const QString &name)
 {
+    const auto labels = page.findChildren<QLabel *>();
+    for (const QLabel *const label : labels) { // on Linux, a combo box calls itself after its value
+        if (label->text().remove('&').remove(':') == name &&
+            qobject_cast<Control *>(label->buddy()) != nullptr)
+            return qobject_cast<Control *>(label->buddy());
+    }
     const auto controls = page.findChildren<Control *>();
     for (Control *const found : controls) {
         if (QAccessible::queryAccessibleInterface(found)->text(QAccessible::Name).remove(':') == name)

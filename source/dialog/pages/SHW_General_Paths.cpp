@@ -3,6 +3,8 @@
 #include "SHW_General_Paths.h"
 
 #include "PageTexts.h"
+#include "PYXBroker.h"
+#include "PYXIApplicationInfo.h"
 #include "PYXSettings.h"
 #include "SharedPathSettings.h"
 
@@ -117,6 +119,9 @@ bool SHW_General_Paths::applyChanges()
 
 void SHW_General_Paths::initContents()
 {
+    // Who asks first for a shared directory has the defaults written, which the page is to show.
+    if (auto *const info = PYXBroker::getInstance()->topObject<PYXIApplicationInfo>())
+        info->getSpecialDirPath(SharedPathSettings::Collections.specialDir, false);
     PYXSettings::cloneUserAndSharedSubTreesForPaths(PathsGroup, SavedGroup);
     PYXBoundSettingsWidget::initContents();
 }
