@@ -9,7 +9,7 @@
 namespace PYXRuntime {
 namespace {
 
-constexpr int Timeout = 15'000; // ms
+constexpr int Timeout = 15000; // ms
 constexpr int ProxyAuthentication = 407;
 constexpr int BadGateway = 502;
 constexpr int GatewayTimeout = 504;

@@ -225,6 +225,8 @@ void SHW_Network_Proxy::locallyHandleModifications()
     const int type = m_type->checkedId();
     m_server->setEnabled(type == Enums::ekProxy_ManualConfiguration);
     m_credentials->setEnabled(type != Enums::ekProxy_NoProxy);
+    QStringList errors;
+    m_test->setEnabled(verifyContents(errors));
 }
 
 void SHW_Network_Proxy::_sl_dialog_finished()
