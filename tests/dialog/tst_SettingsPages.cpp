@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "PYXBroker.h"
 #include "PYXBrokerRegistration.h"
+#include "PYXNotification.h"
 #include "PYXProxyManager.h"
 #include "PYXRuntimeCenter.h"
 #include "PYXSettings.h"
@@ -12,6 +13,7 @@
 #include "SHW_Debug_Broker.h"
 #include "SHW_Debug_RuntimeScopes.h"
 #include "SHW_General_Language.h"
+#include "SHW_General_Messages.h"
 #include "SHW_General_Paths.h"
 #include "SHW_Network_Entries.h"
 #include "SHW_Network_Proxy.h"
@@ -33,6 +35,7 @@
 #include <QtWidgets/QSpinBox>
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QTableWidget>
+#include <QtWidgets/QTreeWidget>
 
 using namespace PYXRuntime;
 
@@ -130,15 +133,16 @@ private slots:
     void proxyErrors();
     void proxyTest();
     void networkEntries();
+    void suppressedMessages();
 };
 
 void tst_SettingsPages::everyPageOpensUntouchedAndNamed()
 {
     Fixture f;
-    QList<PYXSettingsHandlerWidget *> pages{f.add<SHW_General_Language>(),    f.add<SHW_General_Paths>(),
-                                            f.add<SHW_Network_Proxy>(),       f.add<SHW_Network_Entries>(),
-                                            f.add<SHW_Debug_RuntimeScopes>(), f.add<SHW_Debug_Broker>(),
-                                            f.add<SHW_Debug_AppMode>()};
+    QList<PYXSettingsHandlerWidget *> pages{f.add<SHW_General_Language>(), f.add<SHW_General_Paths>(),
+                                            f.add<SHW_General_Messages>(), f.add<SHW_Network_Proxy>(),
+                                            f.add<SHW_Network_Entries>(),  f.add<SHW_Debug_RuntimeScopes>(),
+                                            f.add<SHW_Debug_Broker>(),     f.add<SHW_Debug_AppMode>()};
     f.shared.setValue("Paths/Scripts", "/tmp");
     f.run([&] {
         QVERIFY(!f.isModified());
@@ -390,6 +394,31 @@ void tst_SettingsPages::networkEntries()
     stored.restore(f.settings);
     QCOMPARE(stored.names(), QStringList({"North", "South"}));
     QCOMPARE(stored.defaultEntry().address(), QHostAddress("fd00::5"));
+}
+
+void tst_SettingsPages::suppressedMessages()
+{
+    Fixture f;
+    auto *const page = f.add<SHW_General_Messages>();
+    for (const char *const name : {"one", "two", "three"})
+        PYXNotification::setWillShowMessage("Test", name, false, QDialogButtonBox::Ok, true, name, "text");
+    f.run([&] {
+        auto *const list = page->findChild<QTreeWidget *>();
+        QVERIFY(list->topLevelItemCount() == 3 && !f.isModified());
+        list->setCurrentItem(list->findItems("one", Qt::MatchExactly).value(0));
+        QTest::keyClick(list, Qt::Key_Space);
+        QVERIFY(f.isModified() && !PYXNotification::willShowMessage("Test", "one"));
+        f.apply();
+        QVERIFY(!f.isModified() && PYXNotification::willShowMessage("Test", "one"));
+        QCOMPARE(list->topLevelItemCount(), 2);
+        f.button(QDialogButtonBox::RestoreDefaults)->click();
+        QVERIFY(f.isModified() && !f.button(QDialogButtonBox::RestoreDefaults)->isEnabled());
+        f.button(QDialogButtonBox::Reset)->click();
+        QVERIFY(!f.isModified());
+        control<QPushButton>(*page, "Show All Again")->click();
+        f.apply();
+        QVERIFY(list->topLevelItemCount() == 0 && PYXNotification::suppressedMessages().isEmpty());
+    });
 }
 
 QTEST_MAIN(tst_SettingsPages)
