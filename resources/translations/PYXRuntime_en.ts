@@ -11,6 +11,7 @@
         </translation>
     </message>
 </context>
+
 <context>
     <name>PYXRuntime::SHW_Network_Entries</name>
     <message numerus="yes">

@@ -89,25 +89,6 @@
     </message>
 </context>
 <context>
-    <name>PYXRuntime::NewIntegrationVersionChecker</name>
-    <message>
-        <source>&lt;HTML&gt;&lt;TABLE&gt;&lt;TR&gt;&lt;TH&gt;Current version&lt;/TH&gt;&lt;TD&amp;nbsp;&lt;/TD&gt;&lt;TD&gt;%1&lt;/TD&gt;&lt;/TR&gt;&lt;TR&gt;&lt;TH&gt;Latest version&lt;/TH&gt;&lt;TD&amp;nbsp;&lt;/TD&gt;&lt;TD&gt;%2&lt;/TD&gt;&lt;/TR&gt;&lt;/TABLE&gt;&lt;P&gt;Location: %3&lt;/HTML&gt;</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 - Newer Version Found</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Open Folder</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Ignore Version</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
     <name>PYXRuntime::NullEncryptionProvider</name>
     <message>
         <source>Null Encryption Provider</source>
@@ -197,17 +178,6 @@
     <message>
         <source>All files</source>
         <translation>Tous les fichiers</translation>
-    </message>
-</context>
-<context>
-    <name>PYXRuntime::PYXNotification</name>
-    <message>
-        <source>Ask this question again</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Show this message again</source>
-        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -611,6 +581,49 @@
     </message>
 </context>
 <context>
+    <name>PYXRuntime::SHW_General_Messages</name>
+    <message>
+        <source>always</source>
+        <translation>toujours</translation>
+    </message>
+    <message>
+        <source>this time</source>
+        <translation>cette fois</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>Messages</translation>
+    </message>
+    <message>
+        <source>&amp;These messages are not shown. Clear the mark of those that you want to see again.</source>
+        <translation>&amp;Ces messages ne sont pas affichés. Décochez ceux que vous voulez revoir.</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titre</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Message</translation>
+    </message>
+    <message>
+        <source>Hidden</source>
+        <translation>Masqué</translation>
+    </message>
+    <message>
+        <source>Messages that are not shown</source>
+        <translation>Messages qui ne sont pas affichés</translation>
+    </message>
+    <message>
+        <source>Show &amp;All Again</source>
+        <translation>Tout &amp;afficher de nouveau</translation>
+    </message>
+    <message>
+        <source>Clears all marks; Apply shows the messages again</source>
+        <translation>Décoche tout ; « Appliquer » affiche de nouveau les messages</translation>
+    </message>
+</context>
+<context>
     <name>PYXRuntime::SHW_General_Paths</name>
     <message>
         <source>Choose Directory</source>
@@ -1004,4 +1017,5 @@
         <translation>Français</translation>
     </message>
 </context>
+
 </TS>
