@@ -41,7 +41,10 @@ GOALS = {
     ("icons/200 SVG icons at four sizes, cold", "QIcon::fromTheme"): 1.0,
     ("icons/200 SVG icons at four sizes, cold", "KIconLoader"): 1.0,
 }
-DIFFERENCE_GOALS = {("startup/process", "bare QApplication"): 10.0}
+DIFFERENCE_GOALS = {
+    ("startup/process", "bare QApplication"): 10.0,
+    ("language/switch with 1000 labels", "labels alone"): 16.0,
+}
 TIME_GOALS = {"icons/longest hold while all are cached": 16.0}  # ms, whatever the peer takes
 NANOSECONDS = {"ns": 1.0, "us": 1e3, "ms": 1e6, "s": 1e9}
 

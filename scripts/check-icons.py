@@ -19,7 +19,7 @@ PALETTE = {
     "Red": "#df4f49",
     "Violet": "#9b6ad6",
 }
-PAPER = "#ffffff"  # only upon a solid colour, so it need not stand out from any ground
+PAPER = "#ffffff"  # only with a solid colour, so it need not stand out from any ground
 USES_PAPER = re.compile(r"Overlays/|round_led_")
 IS_LAMP = re.compile(r"round_led_")
 GROUNDS = ("#ffffff", "#f0f0f0", "#202124", "#2b2b2b")

@@ -43,10 +43,18 @@ void paintBand(QPainter *painter, const struIconEntry &entry, const QRect &band,
     }
 }
 
-/** Long names are broken behind the words they are made of. */
-QString breakable(QString name)
+/** Long names are broken between the words they are made of. */
+QString breakable(const QString &name)
 {
-    return name.replace(QLatin1Char('_'), QStringLiteral("_\u200b"));
+    const QChar opportunity(0x200b); // a space without width
+    QString text;
+    for (int i = 0; i < name.size(); ++i) {
+        const bool bWordBegins = i > 0 && name.at(i).isUpper() && name.at(i - 1).isLower();
+        if (bWordBegins || (i > 0 && name.at(i - 1) == QLatin1Char('_')))
+            text += opportunity;
+        text += name.at(i);
+    }
+    return text;
 }
 
 } // namespace

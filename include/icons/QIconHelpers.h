@@ -6,6 +6,7 @@
 
 #include <QtCore/QFlags>
 #include <QtCore/QList>
+#include <QtCore/QObject>
 #include <QtCore/QRectF>
 #include <QtGui/QIcon>
 
@@ -14,6 +15,7 @@ namespace PYXRuntime {
 /** Regions of an icon, and how full they are. The GUI thread only. */
 class PYXRUNTIME_EXPORT QIconHelpers final
 {
+    Q_GADGET
 public:
     QIconHelpers() = delete;
 
@@ -28,6 +30,7 @@ public:
         ekOverlayRegion_Corners = 0xF
     };
     Q_DECLARE_FLAGS(eOverlayRegionFlags, eOverlayRegionFlag)
+    Q_FLAG(eOverlayRegionFlags)
 
     /** The single flags that are set, in the order of their values. */
     static QList<eOverlayRegionFlag> regions(eOverlayRegionFlags flags);

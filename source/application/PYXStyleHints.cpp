@@ -6,6 +6,7 @@
 #include "SingletonHolder.h"
 
 #include <QtGui/QFontDatabase>
+#include <QtGui/QFontInfo>
 #include <QtGui/QPalette>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QStyle>
@@ -109,6 +110,10 @@ QFont PYXStyleHints::monospaceFont() const
     if (qobject_cast<QGuiApplication *>(QCoreApplication::instance()) == nullptr)
         return {};
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    if (!QFontInfo(font).fixedPitch()) { // some platforms just give their general font
+        font.setFamily(QStringLiteral("monospace"));
+        font.setStyleHint(QFont::Monospace);
+    }
     const QFont applications = QGuiApplication::font();
     if (applications.pointSizeF() > 0)
         font.setPointSizeF(applications.pointSizeF());

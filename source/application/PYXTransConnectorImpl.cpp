@@ -16,6 +16,7 @@
 #include <QtCore/QStandardPaths>
 
 #include <algorithm>
+#include <utility>
 
 namespace PYXRuntime {
 namespace {
@@ -70,7 +71,7 @@ QString noModuleFileText(const PYXTranslatableModuleImpl &module, const QString 
 QString displayName(const QString &locale, const QString &directory)
 {
     if (const auto library = TranslationFile::open(LibraryStem, locale, directory)) {
-        const QString name = library->translate(NameContext, NameOfLanguage.text, NameOfLanguage.comment, -1);
+        QString name = library->translate(NameContext, NameOfLanguage.text, NameOfLanguage.comment, -1);
         if (!name.isEmpty())
             return name;
     }
@@ -137,15 +138,15 @@ void PYXTransConnectorImpl::destroyInstance()
 
 bool PYXTransConnectorImpl::changeLocale(const QString &locale)
 {
-    const QString wanted = locale; // it may be the one that getLocaleName() has given
-    const QString previous = m_localeName;
+    // A copy: the argument may be what getLocaleName() has given.
+    QString wanted(locale.constData(), locale.size());
+    const QString previous = std::exchange(m_localeName, English);
     LanguageChangeHold hold;
     _unloadAll();
-    m_localeName = English;
     const bool bBase = _loadBase(wanted);
     const bool bLoaded = bBase && (_loadModules(wanted) || wanted == English);
     if (bLoaded)
-        m_localeName = wanted;
+        m_localeName.swap(wanted);
     else
         _unloadAll();
     _announce(hold, bBase || previous != English);

@@ -5,21 +5,32 @@
 #include "Enums.h"
 #include "Flags.h"
 #include "PYXApplicationInfoImpl.h"
+#include "PYXIAppInternals.h"
 #include "PYXIFileList.h"
 #include "PYXRetainingFileSet.h"
 #include "PYXRuntime.h"
 #include "PYXSettings.h"
 #include "PYXSettingsTransfer.h"
+#include "PYXSingleInstance.h"
+#include "PYXStandardIconIds.h"
 #include "PYXStrings.h"
 #include "PYXStyleHints.h"
 #include "PYXTracerBase.h"
+#include "PYXWinResVersion.h"
+#include "QIconHelpers.h"
 
 #include <algorithm>
 
 namespace PYXRuntime {
 namespace {
 
-/** The interface of these has no meta-object. */
+// The interfaces of these two have no meta-object.
+Enums::Keys appModes()
+{
+    return {{QStringLiteral("ekAppMode_Debug"), PYXIAppInternals::ekAppMode_Debug},
+            {QStringLiteral("ekAppMode_Expert"), PYXIAppInternals::ekAppMode_Expert}};
+}
+
 Enums::Keys specialDirs()
 {
     Enums::Keys keys;
@@ -43,10 +54,13 @@ void fillEnumTables()
 {
     registerEnumerations<PYXStrings::eText, PYXIFileList::eFileType, PYXRetainingFileSet::eWeight,
                          PYXSettings::ePurpose, PYXSettings::eThisRunOnlySettings,
-                         PYXSettingsTransfer::eSecrets, PYXStyleHints::eColor, PYXStyleHints::eIconSize,
-                         PYXTracerBase::eForm, PYXTracerBase::eLevel>();
+                         PYXSettingsTransfer::eSecrets, PYXSingleInstance::eResult,
+                         PYXStandardIconIds::eStandardIcon, PYXStyleHints::eColor, PYXStyleHints::eIconSize,
+                         PYXTracerBase::eForm, PYXTracerBase::eLevel, PYXWinResVersion::eVersionType>();
     Enums::registerEnumeration(QStringLiteral("PYXRuntime::PYXIApplicationInfo::eSpecialDir"), specialDirs());
     Flags::registerFlags<ePYXInitializeFlags>();
+    Flags::registerFlags<QIconHelpers::eOverlayRegionFlags>();
+    Flags::registerFlags(QStringLiteral("PYXRuntime::PYXIAppInternals::eAppMode"), appModes());
 }
 
 } // namespace PYXRuntime

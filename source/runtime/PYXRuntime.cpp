@@ -13,6 +13,7 @@
 #include "PYXHelpConnectorImpl.h"
 #include "PYXIconLoader.h"
 #include "PYXNetworkEntry.h"
+#include "PYXPopupNotification.h"
 #include "PYXProxyManager.h"
 #include "PYXRuntimeCenter.h"
 #include "PYXStandardIcons.h"
@@ -93,6 +94,7 @@ bool initialize_PYXRuntime(ePYXInitializeFlags flags)
     Flags::makeSureInitialized();
     fillEnumTables();
     PYXStyleHints::makeSureInitialized();
+    PYXPopupNotification::makeSureInitialized();
     PYXEncryptionManager::makeSureInitialized();
     PYXProxyManager::makeSureInitialized();
     PYXStatusHash::registerMetaType();
@@ -121,6 +123,7 @@ void uninitialize_PYXRuntime()
     tearDownFonts();
     PYXProxyManager::destroyInstance();
     PYXEncryptionManager::destroyInstance();
+    PYXPopupNotification::destroyInstance();
     PYXStyleHints::destroyInstance();
     Flags::destroyInstance();
     Enums::destroyInstance();

@@ -141,8 +141,6 @@ QByteArray PeImage::resource(quint32 type, quint32 id, const QVector<quint16> &l
             break;
         }
     }
-    if ((chosen.target & Flag) != 0)
-        return QByteArray();
     const QByteArray data = _readAddress(quint64(m_resourcesAddress) + chosen.target, DataEntrySize);
     return _readAddress(littleEndian<quint32>(data, 0), std::min(limit, littleEndian<quint32>(data, 4)));
 }

@@ -10,7 +10,6 @@ namespace PYXRuntime {
 namespace {
 
 const int HeaderSize = 6; // length, length of the value, type
-const quint16 TextType = 1;
 
 int aligned(int offset)
 {
@@ -53,11 +52,9 @@ int VersionNode::_textEnd(int begin) const
     return end;
 }
 
-// The length is in characters where the value is a text.
 int VersionNode::_valueSize() const
 {
-    const int factor = littleEndian<quint16>(m_block, m_begin + 4) == TextType ? 2 : 1;
-    return std::min(littleEndian<quint16>(m_block, m_begin + 2) * factor, m_end - m_value);
+    return std::min(int(littleEndian<quint16>(m_block, m_begin + 2)), m_end - m_value);
 }
 
 QString VersionNode::key() const

@@ -24,9 +24,9 @@ public:
 
     bool isValid() const { return m_end > m_begin; }
     QString key() const;
-    /** The value in bytes. */
+    /** The value as bytes, as long as it says it is. */
     QByteArray value() const;
-    /** The value as a text, to its first NUL. */
+    /** The value as a text, to its first NUL; empty where it says it has no length. */
     QString text() const;
 
     VersionNode child(const QString &key) const;

@@ -1,7 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The PYXRuntime developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "ChildProcess.h"
+#include "Flags.h"
+#include "PYXEncryptionManager.h"
 #include "PYXRuntime.h"
+#include "PYXStringPool.h"
+#include "PYXStyleHints.h"
+#include "PYXTransConnectorImpl.h"
 #include "PYXXmlSettings.h"
 #include "RecordingTracer.h"
 
@@ -28,6 +33,7 @@ private slots:
     void cleanup();
     void countsReferences();
     void startsWithoutGui();
+    void endsWhatItHasMadeInOrder();
     void makesXmlTheDefaultOfSettings();
     void fontsHaveFourFacesInTwoFamilies();
     void substitutions_data();
@@ -87,6 +93,25 @@ void tst_PYXRuntime::startsWithoutGui()
                          "initialization! => reorder code";
     QVERIFY2(result.errors.contains("\nPYXRuntime(0)" + text), qPrintable(result.errors));
     QVERIFY(result.errors.contains(QRegularExpression(R"(source\\PYXRuntime\(\d+\))" + text.left(30))));
+}
+
+void tst_PYXRuntime::endsWhatItHasMadeInOrder()
+{
+    QVERIFY(!Enums::hasInstance() && !Flags::hasInstance() && !PYXStyleHints::hasInstance());
+    initialize_PYXRuntime(ekInitialize_NoFonts);
+    QVERIFY(Enums::hasInstance() && Flags::hasInstance() && PYXStyleHints::hasInstance());
+    QVERIFY(PYXStringPool::contains("PYXStrings::ekText_Level"));
+    QStringList names;
+    QStringList ended;
+    for (QObject *const object : std::initializer_list<QObject *>{
+             PYXEncryptionManager::getInstance(), PYXStyleHints::getInstance(), Flags::getInstance(),
+             Enums::getInstance(), PYXTransConnectorImpl::getInstance()}) {
+        const QString name = object->metaObject()->className();
+        names += name;
+        connect(object, &QObject::destroyed, this, [&ended, name] { ended += name; });
+    }
+    uninitialize_PYXRuntime();
+    QCOMPARE(ended, names);
 }
 
 void tst_PYXRuntime::makesXmlTheDefaultOfSettings()

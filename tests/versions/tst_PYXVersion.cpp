@@ -10,6 +10,8 @@ class tst_PYXVersion : public QObject
 {
     Q_OBJECT
 private slots:
+    // Where there is a compiler for expressions, it hides what they cost elsewhere.
+    void initTestCase() { qputenv("QT_ENABLE_REGEXP_JIT", "0"); }
     void readsTexts_data();
     void readsTexts();
     void badTextKeepsTheDebugFlag();
@@ -111,8 +113,7 @@ void tst_PYXVersion::longTextsAreReadInOneGo()
 {
     QElapsedTimer timer;
     timer.start();
-    QVERIFY(!PYXVersion(QString(2'000'000, '7')).isValid());
-    QVERIFY(!PYXVersion(QString(2'000'000, '7').prepend("1.")).isValid());
+    QVERIFY(!PYXVersion(QString(200'000, '7') + ".x").isValid());
     QVERIFY2(timer.elapsed() < 5000, qPrintable(QString::number(timer.elapsed())));
 }
 

@@ -18,7 +18,8 @@ namespace {
 QByteArray sampleBlock(const QString &product = "9.8.7.6")
 {
     const QByteArray english = string("FileVersion", "1.2.3 (Debug)") + string("ProductVersion", product) +
-                               string("Comments", QString::fromUtf8("Übermaß"));
+                               string("Comments", QString::fromUtf8("Übermaß")) +
+                               node("Empty", true, 0, wide("beyond its length"));
     return versionInfo(fixedInfo({0x00010002, 0x00030004, 0x00050006, 0x00070008}),
                        node("040904b0", true, 0, {}, english) +
                            node("040704B0", true, 0, {}, string("FileVersion", "v3.2_1")),
@@ -68,6 +69,7 @@ void tst_PYXWinResVersion::readsBothKinds()
     QCOMPARE(file.fixedFileInfo()->dwFileDateLS, 5U);
     QCOMPARE(file.locales(), (QList<Language>{{0x0409, 0x04B0}, {0x0407, 0x04B0}}));
     QCOMPARE(file.getStringInFirstLanguage("comments"), QString::fromUtf8("Übermaß"));
+    QCOMPARE(file.getStringInFirstLanguage("Empty"), QString());
     QCOMPARE(file.getString({0x0407, 0x04B0}, "ProductVersion"), QString());
 
     PYXVersion version;
@@ -127,6 +129,7 @@ void tst_PYXWinResVersion::damage_data()
     row("resources nowhere", optional + 128, {0xFFFFFFFF});
     row("65535 sections", 64 + 4, {0xFFFF8664});
     row("section outside of the file", optional + 240 + 20, {0xFFFFFFFF});
+    row("data across the end of the section", optional + 240 + 16, {120});
     const int root = SectionOffset;
     row("65535 entries", root + 12, {0xFFFFFFFF});
     row("no version", root + 24, {15});

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The PYXRuntime developers
+// SPDX-License-Identifier: LGPL-3.0-or-later
+#pragma once
+
+#include "DataMutex.h"
+#include "PYXNotification.h"
+
+#include <QtCore/QHash>
+
+namespace PYXRuntime {
+
+/**
+ * The messages that are not shown, by the hash of their two keys joined.
+ *
+ * The persistent ones are read from the user's application settings at the first question, and written when
+ * they change. There each has a group below "::PYXRuntime::/SuppressedMessages", named after a digest of its
+ * keys, since Qt's hash need not be the same in another version. Groups that make no sense are left alone.
+ * Any thread.
+ */
+class SuppressedMessages final
+{
+public:
+    using struMessage = PYXNotification::struSuppressedMessage;
+    using StandardButton = PYXNotification::StandardButton;
+
+    SuppressedMessages() = default;
+    Q_DISABLE_COPY(SuppressedMessages)
+
+    /** That of the process. */
+    static SuppressedMessages &instance();
+
+    bool contains(const QString &firstKey, const QString &secondKey);
+    StandardButton returnButton(const QString &firstKey, const QString &secondKey);
+    QList<struMessage> all();
+
+    void suppress(struMessage message);
+    void remove(const QString &firstKey, const QString &secondKey);
+    void removeIfReturning(const QString &firstKey, const QString &secondKey, StandardButton button);
+    void clear();
+
+private:
+    static uint _hashKey(const QString &firstKey, const QString &secondKey);
+    void _loadOnce();
+    void _removeLocked(QHash<uint, struMessage>::iterator message);
+
+    DataMutex m_mutex;
+    QHash<uint, struMessage> m_messages;
+    bool m_bLoaded = false;
+};
+
+} // namespace PYXRuntime
