@@ -11,7 +11,6 @@
         </translation>
     </message>
 </context>
-
 <context>
     <name>PYXRuntime::SHW_Network_Entries</name>
     <message numerus="yes">

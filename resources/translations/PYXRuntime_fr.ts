@@ -16,7 +16,7 @@
     </message>
     <message>
         <source>The system&apos;s secret store cannot be used: %1</source>
-        <translation>Le trousseau du système ne peut pas être utilisé : %1</translation>
+        <translation>Le trousseau du système ne peut pas être utilisé&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -39,24 +39,6 @@
     </message>
 </context>
 <context>
-<<<<<<< HEAD
-    <name>PYXRuntime::NewIntegrationVersionChecker</name>
-    <message>
-        <source>&lt;HTML&gt;&lt;TABLE&gt;&lt;TR&gt;&lt;TH&gt;Current version&lt;/TH&gt;&lt;TD&amp;nbsp;&lt;/TD&gt;&lt;TD&gt;%1&lt;/TD&gt;&lt;/TR&gt;&lt;TR&gt;&lt;TH&gt;Latest version&lt;/TH&gt;&lt;TD&amp;nbsp;&lt;/TD&gt;&lt;TD&gt;%2&lt;/TD&gt;&lt;/TR&gt;&lt;/TABLE&gt;&lt;P&gt;Location: %3&lt;/HTML&gt;</source>
-        <translation>&lt;HTML&gt;&lt;TABLE&gt;&lt;TR&gt;&lt;TH&gt;Version installée&lt;/TH&gt;&lt;TD&amp;nbsp;&lt;/TD&gt;&lt;TD&gt;%1&lt;/TD&gt;&lt;/TR&gt;&lt;TR&gt;&lt;TH&gt;Dernière version&lt;/TH&gt;&lt;TD&amp;nbsp;&lt;/TD&gt;&lt;TD&gt;%2&lt;/TD&gt;&lt;/TR&gt;&lt;/TABLE&gt;&lt;P&gt;Emplacement : %3&lt;/HTML&gt;</translation>
-    </message>
-    <message>
-        <source>%1 - Newer Version Found</source>
-        <translation>%1 – Nouvelle version disponible</translation>
-    </message>
-    <message>
-        <source>Open Folder</source>
-        <translation>Ouvrir le dossier</translation>
-    </message>
-    <message>
-        <source>Ignore Version</source>
-        <translation>Ignorer cette version</translation>
-=======
     <name>PYXRuntime::LiveTable</name>
     <message>
         <source>Filter</source>
@@ -104,7 +86,25 @@
     <message>
         <source>Default</source>
         <translation>Par défaut</translation>
->>>>>>> dialog
+    </message>
+</context>
+<context>
+    <name>PYXRuntime::NewIntegrationVersionChecker</name>
+    <message>
+        <source>&lt;HTML&gt;&lt;TABLE&gt;&lt;TR&gt;&lt;TH&gt;Current version&lt;/TH&gt;&lt;TD&amp;nbsp;&lt;/TD&gt;&lt;TD&gt;%1&lt;/TD&gt;&lt;/TR&gt;&lt;TR&gt;&lt;TH&gt;Latest version&lt;/TH&gt;&lt;TD&amp;nbsp;&lt;/TD&gt;&lt;TD&gt;%2&lt;/TD&gt;&lt;/TR&gt;&lt;/TABLE&gt;&lt;P&gt;Location: %3&lt;/HTML&gt;</source>
+        <translation>&lt;HTML&gt;&lt;TABLE&gt;&lt;TR&gt;&lt;TH&gt;Version installée&lt;/TH&gt;&lt;TD&amp;nbsp;&lt;/TD&gt;&lt;TD&gt;%1&lt;/TD&gt;&lt;/TR&gt;&lt;TR&gt;&lt;TH&gt;Dernière version&lt;/TH&gt;&lt;TD&amp;nbsp;&lt;/TD&gt;&lt;TD&gt;%2&lt;/TD&gt;&lt;/TR&gt;&lt;/TABLE&gt;&lt;P&gt;Emplacement&#xa0;: %3&lt;/HTML&gt;</translation>
+    </message>
+    <message>
+        <source>%1 - Newer Version Found</source>
+        <translation>%1 – Nouvelle version disponible</translation>
+    </message>
+    <message>
+        <source>Open Folder</source>
+        <translation>Ouvrir le dossier</translation>
+    </message>
+    <message>
+        <source>Ignore Version</source>
+        <translation>Ignorer cette version</translation>
     </message>
 </context>
 <context>
@@ -122,11 +122,11 @@
     </message>
     <message>
         <source>IPv4 address: four numbers from 0 to 255 with points between</source>
-        <translation>Adresse IPv4 : quatre nombres de 0 à 255 séparés par des points</translation>
+        <translation>Adresse IPv4&#xa0;: quatre nombres de 0 à 255 séparés par des points</translation>
     </message>
     <message>
         <source>IPv6 address: eight groups of up to four hexadecimal digits with colons between; &quot;::&quot; stands for groups of zeros</source>
-        <translation>Adresse IPv6 : huit groupes d’au plus quatre chiffres hexadécimaux séparés par des deux-points ; « :: » remplace des groupes de zéros</translation>
+        <translation>Adresse IPv6&#xa0;: huit groupes d’au plus quatre chiffres hexadécimaux séparés par des deux-points&#xa0;; «&#xa0;::&#xa0;» remplace des groupes de zéros</translation>
     </message>
     <message>
         <source>IPv4 or IPv6 address, such as 192.168.1.10 or fd00::10</source>
@@ -200,7 +200,6 @@
     </message>
 </context>
 <context>
-<<<<<<< HEAD
     <name>PYXRuntime::PYXNotification</name>
     <message>
         <source>Ask this question again</source>
@@ -209,7 +208,9 @@
     <message>
         <source>Show this message again</source>
         <translation>Afficher de nouveau ce message</translation>
-=======
+    </message>
+</context>
+<context>
     <name>PYXRuntime::PYXRecentFilesMenu</name>
     <message>
         <source>Open &amp;Recent</source>
@@ -329,26 +330,25 @@
     <message>
         <source>Restore the defaults of all pages</source>
         <translation>Restaurer les valeurs par défaut de toutes les pages</translation>
->>>>>>> dialog
     </message>
 </context>
 <context>
     <name>PYXRuntime::PYXSettingsTransfer</name>
     <message>
         <source>The settings cannot be written to &quot;%1&quot;: %2</source>
-        <translation>Les paramètres ne peuvent pas être enregistrés dans « %1 » : %2</translation>
+        <translation>Les paramètres ne peuvent pas être enregistrés dans «&#xa0;%1&#xa0;»&#xa0;: %2</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; cannot be opened: %2</source>
-        <translation>Le fichier « %1 » ne peut pas être ouvert : %2</translation>
+        <translation>Le fichier «&#xa0;%1&#xa0;» ne peut pas être ouvert&#xa0;: %2</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no settings file, or is damaged.</source>
-        <translation>« %1 » n’est pas un fichier de paramètres ou est endommagé.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un fichier de paramètres ou est endommagé.</translation>
     </message>
     <message>
         <source>The settings file &quot;%1&quot; cannot be written.</source>
-        <translation>Le fichier de paramètres « %1 » ne peut pas être enregistré.</translation>
+        <translation>Le fichier de paramètres «&#xa0;%1&#xa0;» ne peut pas être enregistré.</translation>
     </message>
 </context>
 <context>
@@ -359,15 +359,15 @@
     </message>
     <message>
         <source>Other instances cannot be listened to: %1</source>
-        <translation>Impossible d’écouter les autres instances : %1</translation>
+        <translation>Impossible d’écouter les autres instances&#xa0;: %1</translation>
     </message>
     <message>
         <source>The file &quot;%1&quot; cannot be locked.</source>
-        <translation>Le fichier « %1 » ne peut pas être verrouillé.</translation>
+        <translation>Le fichier «&#xa0;%1&#xa0;» ne peut pas être verrouillé.</translation>
     </message>
     <message>
         <source>The path &quot;%1&quot; is too long for a socket.</source>
-        <translation>Le chemin « %1 » est trop long pour un socket.</translation>
+        <translation>Le chemin «&#xa0;%1&#xa0;» est trop long pour un socket.</translation>
     </message>
     <message>
         <source>The running instance does not accept the arguments.</source>
@@ -397,11 +397,11 @@
     <name>PYXRuntime::ProxyConfiguration</name>
     <message>
         <source>Proxy Configuration: restore failed</source>
-        <translation>Configuration du proxy : échec de la restauration</translation>
+        <translation>Configuration du proxy&#xa0;: échec de la restauration</translation>
     </message>
     <message>
         <source>Proxy Configuration: password was encrypted with different encryption and might not decrypt properly</source>
-        <translation>Configuration du proxy : le mot de passe a été chiffré par une autre méthode et risque de ne pas pouvoir être déchiffré correctement</translation>
+        <translation>Configuration du proxy&#xa0;: le mot de passe a été chiffré par une autre méthode et risque de ne pas pouvoir être déchiffré correctement</translation>
     </message>
 </context>
 <context>
@@ -1047,5 +1047,4 @@
         <translation>Français</translation>
     </message>
 </context>
-
 </TS>
