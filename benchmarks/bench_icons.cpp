@@ -264,8 +264,10 @@ void holdEventLoop(benchmark::State &state, bool bInBatches)
             icons.installEventFilter(&lastBatch);
             icons.delayedEnsureRegisteredIconsAreCached(all);
         } else {
-            QTimer::singleShot(1, &icons, [&] { icons.directEnsureRegisteredIconsAreCached(all); });
-            QTimer::singleShot(5, &loop, &QEventLoop::quit);
+            QTimer::singleShot(1, &icons, [&] {
+                icons.directEnsureRegisteredIconsAreCached(all);
+                QTimer::singleShot(5, &loop, &QEventLoop::quit);
+            });
         }
         loop.exec();
         state.SetIterationTime(heartBeat.longest_s());

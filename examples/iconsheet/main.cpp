@@ -5,6 +5,7 @@
 
 #include <PYXRuntime.h>
 
+#include <QtCore/QByteArray>
 #include <QtCore/QCommandLineParser>
 #include <QtGui/QImage>
 #include <QtGui/QPainter>
@@ -12,7 +13,6 @@
 
 #include <algorithm>
 #include <cstdio>
-#include <cstring>
 
 using namespace IconSheet;
 
@@ -43,11 +43,12 @@ int fail(const QString &text)
     return 1;
 }
 
-/** Whether there must be no window: has to be known before there is an application. */
-bool writesFile(int argc, char **argv)
+/** Whether there will be no window: has to be known before there is an application. */
+bool needsNoDisplay(int argc, char **argv)
 {
     return std::any_of(argv + 1, argv + argc, [](const char *argument) {
-        return std::strncmp(argument, "--png", 5) == 0 || std::strncmp(argument, "-png", 4) == 0;
+        const QByteArray option = QByteArray(argument).replace("--", "-");
+        return option.startsWith("-png") || option.startsWith("-h");
     });
 }
 
@@ -98,7 +99,7 @@ int run(const QCommandLineParser &parser)
 
 int main(int argc, char **argv)
 {
-    if (writesFile(argc, argv))
+    if (needsNoDisplay(argc, argv))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);

@@ -103,6 +103,7 @@ private Q_SLOTS:
 
 private:
     PYXRuntimeCenter();
+    friend class SHW_Debug_RuntimeScopes; // shows and switches all scopes
     static PYXRuntimeCenter *getInstance();
     static QHash<uint, RuntimeScope> runtimeScopes();
 

@@ -125,12 +125,15 @@ public:
     /** The state of the check box; at first true. */
     bool showAgain() const;
 
+    void setVisible(bool visible) override;
+
 protected:
     void showEvent(QShowEvent *event) override;
     void changeEvent(QEvent *event) override;
 
 private:
     void _build();
+    void _translate();
     void _fitText();
     void _applyDefaultButton();
     void _sl_buttonBox_clicked(QAbstractButton *a_button);

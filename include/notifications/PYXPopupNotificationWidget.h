@@ -11,6 +11,7 @@
 
 namespace PYXRuntime {
 
+class PopupContent;
 class PopupInset;
 
 /**
@@ -48,7 +49,8 @@ public:
 
     /** A large pixmap is shown scaled down; a null one brings the default back. */
     void setPixmap(const QPixmap &pixmap);
-    /** The pixmap that was set; else the default one, the style's information icon. */
+    /** The pixmap that was set; else the default one, an "i" in the palette's
+     * highlight colour. */
     QPixmap pixmap() const;
 
     /** Whether nothing is being shown. */
@@ -66,6 +68,7 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
+    PopupContent _content() const;
     qreal _insetOpacity() const;
     void _setInsetOpacity(qreal opacity);
     void _stop();

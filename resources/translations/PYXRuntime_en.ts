@@ -11,4 +11,14 @@
         </translation>
     </message>
 </context>
+<context>
+    <name>PYXRuntime::SHW_Network_Entries</name>
+    <message numerus="yes">
+        <source>%n entries were added.</source>
+        <translation>
+            <numerusform>%n entry was added.</numerusform>
+            <numerusform>%n entries were added.</numerusform>
+        </translation>
+    </message>
+</context>
 </TS>

@@ -3,9 +3,9 @@
 #include "CompositeIconEngine.h"
 
 #include "IconFileNames.h"
+#include "IconImageFile.h"
 
 #include <QtCore/QtMath>
-#include <QtGui/QGuiApplication>
 #include <QtGui/QPainter>
 
 #include <algorithm>
@@ -81,7 +81,7 @@ void erase(QPainter &painter, const QPixmap &shape, qreal margin)
 CompositeIconEngine::CompositeIconEngine(const QList<struCompositeIconLayer> &layers,
                                          const QList<struModeState> &modeStates)
     : m_modeStates(modeStates)
-    , m_ratio(qGuiApp->devicePixelRatio())
+    , m_ratio(highestScreenRatio())
 {
     for (struCompositeIconLayer layer : layers) {
         layer.area = boundedArea(layer.area);
@@ -113,7 +113,7 @@ QSize CompositeIconEngine::drawnSize(const QSize &size, const struModeState &mod
         bound = bound.expandedTo(
             {qRound(largest.width() / layer.area.width()), qRound(largest.height() / layer.area.height())});
     }
-    bound *= std::max(qreal(1), qGuiApp->devicePixelRatio() / m_ratio);
+    bound *= std::max(qreal(1), highestScreenRatio() / m_ratio);
     if (bound.isEmpty() || (size.width() <= bound.width() && size.height() <= bound.height()))
         return size;
     return bound.scaled(size.boundedTo(bound), Qt::KeepAspectRatio);

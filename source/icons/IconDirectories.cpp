@@ -5,6 +5,7 @@
 #include <QtCore/QDir>
 #include <QtCore/QDirIterator>
 
+#include <algorithm>
 #include <chrono>
 #include <filesystem>
 
@@ -19,18 +20,6 @@ constexpr auto CoarsestTimeStamp = std::chrono::seconds(2);
 /** Resources have no time, and change only when more are registered. */
 constexpr qint64 TimeOfResources = 0;
 
-IconDirectories::struListing read(const QString &path)
-{
-    IconDirectories::struListing listing;
-    QDirIterator entries(path, QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot);
-    while (entries.hasNext()) {
-        entries.next();
-        (entries.fileInfo().isDir() ? listing.directories : listing.files) += entries.fileName();
-    }
-    listing.files.sort(Qt::CaseInsensitive);
-    return listing;
-}
-
 bool isResource(const QString &path)
 {
     return path.startsWith(QLatin1Char(':'));
@@ -38,36 +27,62 @@ bool isResource(const QString &path)
 
 } // namespace
 
-IconDirectories::struListing IconDirectories::listing(const QDir &dir)
+QStringList IconDirectories::filesBeginningWith(const QDir &dir, const QString &prefix)
+{
+    const auto comesBefore = [](const QString &file, const QString &text) {
+        return file.compare(text, Qt::CaseInsensitive) < 0;
+    };
+    const QStringList files = _listing(dir).files;
+    QStringList found;
+    auto file = std::lower_bound(files.cbegin(), files.cend(), prefix, comesBefore);
+    for (; file != files.cend() && file->startsWith(prefix, Qt::CaseInsensitive); ++file)
+        found += *file;
+    m_bFound |= !found.isEmpty();
+    return found;
+}
+
+bool IconDirectories::hasDirectory(const QDir &dir, const QString &name)
+{
+    // The file system decides whether case matters.
+    return _listing(dir).directories.contains(name, Qt::CaseInsensitive) && dir.exists(name);
+}
+
+void IconDirectories::beginSearch()
+{
+    m_bUsedKept = false;
+    m_bFound = false;
+}
+
+IconDirectories::struListing IconDirectories::_listing(const QDir &dir)
 {
     const QString path = dir.path();
     bool bMayBeKept = true; // a change from now on shows in the directory's time
-    qint64 time = TimeOfResources;
+    struListing listing;
+    listing.time = TimeOfResources;
     if (!isResource(path)) {
         std::error_code error;
         const fs::file_time_type changed = fs::last_write_time(fs::path(path.toStdU16String()), error);
         if (error)
             return {};
-        time = changed.time_since_epoch().count();
+        listing.time = changed.time_since_epoch().count();
         bMayBeKept = fs::file_time_type::clock::now() - changed > CoarsestTimeStamp;
     }
     const auto kept = m_listings.constFind(path);
-    if (kept != m_listings.constEnd() && kept->time == time)
-        return kept->listing;
-    struListing listing = read(path);
+    if (kept != m_listings.constEnd() && kept->time == listing.time) {
+        m_bUsedKept = true;
+        return *kept;
+    }
+    QDirIterator entries(path, QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot);
+    while (entries.hasNext()) {
+        entries.next();
+        (entries.fileInfo().isDir() ? listing.directories : listing.files) += entries.fileName();
+    }
+    listing.files.sort(Qt::CaseInsensitive);
     if (bMayBeKept)
-        m_listings.insert(path, {listing, time});
+        m_listings.insert(path, listing);
     else
         m_listings.remove(path);
     return listing;
-}
-
-bool IconDirectories::forgetResources()
-{
-    const int count = m_listings.size();
-    for (auto it = m_listings.begin(); it != m_listings.end();)
-        it = isResource(it.key()) ? m_listings.erase(it) : std::next(it);
-    return m_listings.size() < count;
 }
 
 } // namespace PYXRuntime

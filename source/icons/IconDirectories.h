@@ -11,30 +11,33 @@ namespace PYXRuntime {
 
 /**
  * What lies in the directories of icons, so that a directory of hundreds of icons is not listed for each of
- * them. A listing is kept while the directory's time stands still.
+ * them. A listing is kept while the directory's time stands still, where it has one.
  */
 class IconDirectories final
 {
 public:
-    struct struListing
-    {
-        QStringList files; ///< names, sorted
-        QStringList directories;
-    };
+    /** Sorted; that begin so in any case of letters. */
+    QStringList filesBeginningWith(const QDir &dir, const QString &prefix);
+    bool hasDirectory(const QDir &dir, const QString &name);
 
-    struListing listing(const QDir &dir);
-    /** @return whether there were any. */
-    bool forgetResources();
+    void beginSearch();
+    /** Whether nothing was found since then, some of it in kept listings. */
+    bool mayHaveMissedFiles() const { return m_bUsedKept && !m_bFound; }
     void clear() { m_listings.clear(); }
 
 private:
-    struct struKept
+    struct struListing
     {
-        struListing listing;
-        qint64 time; ///< when the directory was changed
+        QStringList files; ///< sorted without regard to case
+        QStringList directories;
+        qint64 time = 0; ///< when the directory was changed
     };
 
-    QHash<QString, struKept> m_listings;
+    struListing _listing(const QDir &dir);
+
+    QHash<QString, struListing> m_listings;
+    bool m_bUsedKept = false;
+    bool m_bFound = false;
 };
 
 } // namespace PYXRuntime

@@ -21,11 +21,11 @@ struct struStateWord
     QLatin1String word;
 };
 
-constexpr struModeWord ModeWords[] = {{QIcon::Normal, QLatin1String("normal")},
-                                      {QIcon::Disabled, QLatin1String("disabled")},
-                                      {QIcon::Active, QLatin1String("active")},
-                                      {QIcon::Selected, QLatin1String("selected")}};
-constexpr struStateWord StateWords[] = {{QIcon::On, QLatin1String("on")}, {QIcon::Off, QLatin1String("off")}};
+const struModeWord ModeWords[] = {{QIcon::Normal, QLatin1String("normal")},
+                                  {QIcon::Disabled, QLatin1String("disabled")},
+                                  {QIcon::Active, QLatin1String("active")},
+                                  {QIcon::Selected, QLatin1String("selected")}};
+const struStateWord StateWords[] = {{QIcon::On, QLatin1String("on")}, {QIcon::Off, QLatin1String("off")}};
 
 bool isSeparator(QChar c)
 {
@@ -100,10 +100,14 @@ QString _iconStateName(QIcon::State state)
 const QVector<struIconFileTag> &iconFileTags()
 {
     static const QVector<struIconFileTag> tags = [] {
+        const QLatin1Char separator('_');
         QVector<struIconFileTag> pairs;
         for (const struModeWord &mode : ModeWords) {
             for (const struStateWord &state : StateWords)
-                pairs += {{mode.mode, state.state}, mode.word, state.word};
+                pairs += {{mode.mode, state.state},
+                          separator + mode.word,
+                          separator + state.word,
+                          mode.word + (separator + state.word)};
         }
         return pairs;
     }();

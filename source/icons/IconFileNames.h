@@ -9,12 +9,13 @@
 
 namespace PYXRuntime {
 
-/** The words that name a mode and a state in file and folder names. */
+/** What names a mode and a state. */
 struct struIconFileTag
 {
     struModeState modeState;
-    QString mode;
+    QString mode; ///< in file names, as "_normal"
     QString state;
+    QString folder; ///< as "normal_off"
 };
 
 /** Every pair of a mode and a state, in the order in which files are tried for them. */

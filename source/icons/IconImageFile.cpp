@@ -3,6 +3,7 @@
 #include "IconImageFile.h"
 
 #include <QtCore/QFileInfo>
+#include <QtGui/QGuiApplication>
 #include <QtGui/QImageReader>
 #include <QtGui/QPainter>
 #include <QtSvg/QSvgRenderer>
@@ -15,7 +16,7 @@ namespace {
 // What a damaged or hostile file claims must not fill the memory.
 constexpr int MaxImagesPerFile = 64;
 constexpr int MaxImageSide = 2048;
-constexpr qint64 MaxDrawingBytes = 4 * 1024 * 1024;
+constexpr qint64 MaxDrawingBytes = 4'194'304;
 
 bool isReasonable(const QSize &size)
 {
@@ -57,13 +58,26 @@ struIconImageFile readDrawing(const QString &path, const QList<QSize> &sizes)
     return file;
 }
 
+QGuiApplication *guiApplication()
+{
+    return qobject_cast<QGuiApplication *>(QCoreApplication::instance());
+}
+
 } // namespace
 
 struIconImageFile readIconImageFile(const QString &path, const QList<QSize> &svgSizes)
 {
+    if (guiApplication() == nullptr)
+        return {};
     if (QFileInfo(path).suffix().toLower() == QLatin1String("svg"))
         return readDrawing(path, svgSizes);
     return {readImages(path), {}};
+}
+
+qreal highestScreenRatio()
+{
+    const QGuiApplication *const application = guiApplication();
+    return application == nullptr ? 1 : application->devicePixelRatio();
 }
 
 QImage renderIconDrawing(QSvgRenderer &drawing, const QSize &size)

@@ -19,8 +19,12 @@ struct struIconImageFile
     QSharedPointer<QSvgRenderer> drawing; ///< of an SVG, which can be rendered at other sizes
 };
 
-/** @param svgSizes in device pixels. Images that cannot be read or are unreasonably large are left out. */
+/** @param svgSizes in device pixels. Images that cannot be read or are unreasonably large are left out; so is
+ * everything where there is no QGuiApplication to make pixmaps. */
 struIconImageFile readIconImageFile(const QString &path, const QList<QSize> &svgSizes);
+
+/** Of all screens. */
+qreal highestScreenRatio();
 
 /** Null for a size that is empty or unreasonably large. */
 QImage renderIconDrawing(QSvgRenderer &drawing, const QSize &size);

@@ -4,7 +4,6 @@
 
 #include "PYXIconLoader.h"
 
-#include <QtGui/QGuiApplication>
 #include <QtSvg/QSvgRenderer>
 
 #include <algorithm>
@@ -151,7 +150,7 @@ QSize ImageIconEngine::_sizeOfDrawing(const QSize &size, const struModeState &mo
     const struDrawing *const drawing = _drawing(modeState);
     if (drawing == nullptr)
         return {0, 0};
-    return shrunkInto(drawing->largest * qGuiApp->devicePixelRatio(), size);
+    return shrunkInto(drawing->largest * highestScreenRatio(), size);
 }
 
 const ImageIconEngine::struDrawing *ImageIconEngine::_drawing(const struModeState &modeState) const

@@ -12,7 +12,6 @@
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QMetaMethod>
-#include <QtGui/QGuiApplication>
 
 #include <algorithm>
 
@@ -34,22 +33,9 @@ void warn(const QString &format, const QString &names)
     qWarning("%s", qUtf8Printable(format.arg(names)));
 }
 
-/** Those that begin so, whatever their case. */
-QStringList filesBeginningWith(const QStringList &files, const QString &baseName)
-{
-    QStringList found;
-    for (const QString &file : files) {
-        if (file.startsWith(baseName, Qt::CaseInsensitive))
-            found += file;
-    }
-    return found;
-}
-
 bool hasTags(const QString &file, const struIconFileTag &tag)
 {
-    const QLatin1Char separator('_');
-    return file.contains(separator + tag.mode, Qt::CaseInsensitive) &&
-           file.contains(separator + tag.state, Qt::CaseInsensitive);
+    return file.contains(tag.mode, Qt::CaseInsensitive) && file.contains(tag.state, Qt::CaseInsensitive);
 }
 
 QSize largestOf(const QList<QSize> &sizes)
@@ -136,7 +122,7 @@ QIcon PYXIconLoader::load(const QString &baseFilePath, QIcon::Mode mode, QIcon::
 {
     const FoundImages found = _findImages(baseFilePath, _baseName(baseFilePath));
     const QPointer<PYXIconLoader> self(this);
-    const QIcon icon = _rawLoad(found, mode, state);
+    QIcon icon = _rawLoad(found, mode, state);
     if (!icon.isNull() || !self || (state != QIcon::On && state != QIcon::Off))
         return icon;
     return _rawLoad(found, mode, state == QIcon::On ? QIcon::Off : QIcon::On);
@@ -210,10 +196,12 @@ PYXIconLoader::FoundImages PYXIconLoader::_findImages(const QString &baseFilePat
     if (baseName.isEmpty())
         return {};
     const QDir dir = QFileInfo(baseFilePath).absoluteDir();
+    m_directories->beginSearch();
     FoundImages found = _findImages_direct(dir, baseName) + _findImages_subdirs(dir, baseName);
-    // Resources may have been registered since they were listed.
-    if (found.isEmpty() && m_directories->forgetResources())
+    if (m_directories->mayHaveMissedFiles()) { // not every file system and no resource tells of new files
+        m_directories->clear();
         found = _findImages_direct(dir, baseName) + _findImages_subdirs(dir, baseName);
+    }
     return found;
 }
 
@@ -222,7 +210,7 @@ PYXIconLoader::FoundImages PYXIconLoader::_findImages_direct(const QDir &dir, co
     FoundImages found;
     QStringList unspecified;
     QHash<uint, QStringList> paths;
-    for (const QString &file : filesBeginningWith(m_directories->listing(dir).files, baseName)) {
+    for (const QString &file : m_directories->filesBeginningWith(dir, baseName)) {
         if (_baseName(file) != baseName)
             continue;
         const auto &tags = iconFileTags();
@@ -247,15 +235,13 @@ PYXIconLoader::FoundImages PYXIconLoader::_findImages_direct(const QDir &dir, co
 PYXIconLoader::FoundImages PYXIconLoader::_findImages_subdirs(const QDir &dir, const QString &baseName)
 {
     FoundImages found;
-    const QStringList directories = m_directories->listing(dir).directories;
     for (const struIconFileTag &tag : iconFileTags()) {
-        const QString name = tag.mode + QLatin1Char('_') + tag.state;
-        const QDir subdir(dir.absoluteFilePath(name));
-        if (!directories.contains(name, Qt::CaseInsensitive) || !subdir.exists())
+        if (!m_directories->hasDirectory(dir, tag.folder))
             continue;
+        const QDir subdir(dir.absoluteFilePath(tag.folder));
         QStringList paths;
         QStringList others;
-        for (const QString &file : filesBeginningWith(m_directories->listing(subdir).files, baseName)) {
+        for (const QString &file : m_directories->filesBeginningWith(subdir, baseName)) {
             if (_baseName(file) == baseName)
                 paths += subdir.absoluteFilePath(file);
             else
@@ -275,7 +261,7 @@ PYXIconLoader::struLoaded PYXIconLoader::_loadImages(const FoundImages &found) c
         !signalsBlocked() && isSignalConnected(QMetaMethod::fromSignal(&PYXIconLoader::si_imageLoaded));
     QList<QSize> sizes;
     for (const QSize &size : m_sizesForSVGIcons)
-        sizes += size * qGuiApp->devicePixelRatio();
+        sizes += size * highestScreenRatio();
     auto engine = std::make_unique<ImageIconEngine>();
     struLoaded loaded;
     for (const struIconFileTag &tag : iconFileTags()) {

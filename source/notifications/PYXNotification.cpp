@@ -114,7 +114,7 @@ void PYXNotification::_build()
     m_textArea->setFrameShape(QFrame::NoFrame);
     m_textArea->setWidgetResizable(true);
     m_textArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_textArea->setFocusPolicy(Qt::NoFocus);
+    m_textArea->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored); // what _fitText() says holds
     m_textArea->setWidget(m_textLabel);
     m_showAgainBox->setObjectName(QStringLiteral("showAgainBox"));
     m_showAgainBox->setChecked(true);
@@ -230,8 +230,13 @@ void PYXNotification::setIcon(QMessageBox::Icon icon)
     m_bOwnPixmap = false;
     m_iconLabel->setPixmap(standardPixmap(icon));
     m_iconLabel->setVisible(icon != QMessageBox::NoIcon);
-    m_showAgainBox->setText(icon == QMessageBox::Question ? tr("Ask this question again")
-                                                          : tr("Show this message again"));
+    _translate();
+}
+
+void PYXNotification::_translate()
+{
+    m_showAgainBox->setText(m_icon == QMessageBox::Question ? tr("Ask this question again")
+                                                            : tr("Show this message again"));
 }
 
 void PYXNotification::setIconPixmap(const QPixmap &pixmap)
@@ -288,10 +293,8 @@ void PYXNotification::setDefaultButton(StandardButton button)
 void PYXNotification::_applyDefaultButton()
 {
     QPushButton *const button = m_buttonBox->button(m_defaultButton);
-    if (button == nullptr)
-        return;
-    button->setDefault(true);
-    button->setFocus();
+    if (button != nullptr)
+        button->setDefault(true);
 }
 
 bool PYXNotification::showAgain() const
@@ -309,9 +312,10 @@ void PYXNotification::_fitText()
         metrics.boundingRect(QRect(0, 0, qMin(character * MaximumCharactersPerLine, room.width() / 2), 1),
                              Qt::TextWordWrap, text());
     const int width = qMax(natural.width() + character, character * MinimumCharactersPerLine);
-    const int height = m_textLabel->heightForWidth(width);
+    const int height = qMax(0, m_textLabel->heightForWidth(width)); // -1 of an empty text
     const bool bScrolls = height > room.height() / 2;
     const int bar = bScrolls ? style()->pixelMetric(QStyle::PM_ScrollBarExtent) : 0;
+    m_textArea->setFocusPolicy(bScrolls ? Qt::TabFocus : Qt::NoFocus); // for those who scroll by keys
     m_textArea->setMinimumSize(width + bar, bScrolls ? room.height() / 2 : height);
 }
 
@@ -319,6 +323,19 @@ void PYXNotification::_sl_buttonBox_clicked(QAbstractButton *a_button)
 {
     m_clickedButton = m_buttonBox->standardButton(a_button);
     done(m_clickedButton);
+}
+
+void PYXNotification::setVisible(bool visible)
+{
+    QDialog::setVisible(visible);
+    if (!visible)
+        return;
+    // The first in the tab order would be the check box, which the space bar clears.
+    const auto buttons = m_buttonBox->findChildren<QPushButton *>();
+    for (QPushButton *const button : buttons) {
+        if (button->isDefault())
+            button->setFocus();
+    }
 }
 
 void PYXNotification::showEvent(QShowEvent *event)
@@ -336,6 +353,8 @@ void PYXNotification::changeEvent(QEvent *event)
         if (!m_bOwnPixmap)
             m_iconLabel->setPixmap(standardPixmap(m_icon));
         _fitText();
+    } else if (event->type() == QEvent::LanguageChange) {
+        _translate();
     }
 }
 

@@ -12,6 +12,7 @@
 #include <QtCore/QPropertyAnimation>
 #include <QtGui/QBitmap>
 #include <QtGui/QPainter>
+#include <QtGui/QScreen>
 
 #include <limits>
 
@@ -107,9 +108,16 @@ bool PYXPopupNotificationWidget::isFinished() const
     return m_animation.isNull() || m_animation->state() == QAbstractAnimation::Stopped;
 }
 
+PopupContent PYXPopupNotificationWidget::_content() const
+{
+    const QScreen *const usedScreen = screen();
+    const QSize room = usedScreen == nullptr ? maximumSize() : usedScreen->availableSize();
+    return PopupContent(m_text, m_pixmap, room * 3 / 4, this);
+}
+
 QSize PYXPopupNotificationWidget::sizeHint() const
 {
-    return PopupContent(m_text, m_pixmap, this).size();
+    return _content().size();
 }
 
 void PYXPopupNotificationWidget::_stop()
@@ -189,7 +197,7 @@ void PYXPopupNotificationWidget::_setInsetOpacity(qreal opacity)
 void PYXPopupNotificationWidget::paintEvent(QPaintEvent * /*event*/)
 {
     QPainter painter(this);
-    PopupContent(m_text, m_pixmap, this).paint(&painter, this);
+    _content().paint(&painter, this);
 }
 
 void PYXPopupNotificationWidget::resizeEvent(QResizeEvent *event)
@@ -201,7 +209,7 @@ void PYXPopupNotificationWidget::resizeEvent(QResizeEvent *event)
     QPainter painter(&mask);
     painter.setBrush(Qt::color1);
     painter.setPen(Qt::NoPen);
-    const int radius = PopupContent(m_text, m_pixmap, this).radius();
+    const int radius = _content().radius();
     painter.drawRoundedRect(rect(), radius, radius);
     painter.end();
     setMask(mask);

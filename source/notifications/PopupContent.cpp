@@ -3,7 +3,6 @@
 #include "PopupContent.h"
 
 #include <QtGui/QPainter>
-#include <QtGui/QPainterPath>
 #include <QtGui/QTextLayout>
 #include <QtWidgets/QStyle>
 #include <QtWidgets/QWidget>
@@ -12,10 +11,10 @@ namespace PYXRuntime {
 namespace {
 
 constexpr int CharactersPerLine = 50;
-constexpr std::size_t MaximumLines = 10;
+constexpr int MinimumCharactersPerLine = 8;
+constexpr int MaximumLines = 10;
 /** More than fits; what is behind is not even looked at. */
-constexpr int MaximumCharacters = 4 * CharactersPerLine * int(MaximumLines);
-constexpr int DefaultPixmapLines = 2;
+constexpr int MaximumCharacters = 4 * CharactersPerLine * MaximumLines;
 constexpr int MaximumPixmapLines = 5;
 const QChar Ellipsis(0x2026);
 
@@ -28,15 +27,20 @@ QColor mixed(const QColor &ground, const QColor &ink, double share)
 
 } // namespace
 
-PopupContent::PopupContent(const QString &text, const QPixmap &pixmap, const QWidget *widget)
+PopupContent::PopupContent(const QString &text, const QPixmap &pixmap, QSize available, const QWidget *widget)
     : m_pixmap(pixmap.isNull() ? defaultPixmap(widget) : pixmap)
-    , m_lineHeight(widget->fontMetrics().lineSpacing())
-    , m_maximumWidth(widget->fontMetrics().averageCharWidth() * CharactersPerLine)
+    , m_lineHeight(qMax(1, widget->fontMetrics().lineSpacing()))
     , m_margin(m_lineHeight * 2 / 3)
 {
-    _breakLines(text, widget);
     _fitPixmap(widget);
-    const int gap = m_pixmapSize.isEmpty() || m_textSize.isEmpty() ? 0 : m_margin;
+    const QFontMetrics metrics = widget->fontMetrics();
+    const int beside = m_pixmapSize.width() + 3 * m_margin;
+    m_maximumWidth = qMax(metrics.averageCharWidth() * MinimumCharactersPerLine,
+                          qMin(metrics.averageCharWidth() * CharactersPerLine, available.width() - beside));
+    const int roomForLines = (available.height() - 2 * m_margin) / m_lineHeight;
+    m_maximumLines = std::size_t(qBound(1, roomForLines, MaximumLines));
+    _breakLines(text, widget);
+    const int gap = m_textSize.isEmpty() ? 0 : m_margin;
     m_size = QSize(m_pixmapSize.width() + gap + m_textSize.width(),
                    qMax(m_pixmapSize.height(), m_textSize.height())) +
              QSize(2 * m_margin, 2 * m_margin);
@@ -44,10 +48,20 @@ PopupContent::PopupContent(const QString &text, const QPixmap &pixmap, const QWi
 
 QPixmap PopupContent::defaultPixmap(const QWidget *widget)
 {
-    const int extent = widget->fontMetrics().lineSpacing() * DefaultPixmapLines;
-    const QIcon icon = widget->style()->standardIcon(QStyle::SP_MessageBoxInformation, nullptr, widget);
-    QPixmap pixmap = icon.pixmap(QSize(extent, extent) * widget->devicePixelRatioF());
-    pixmap.setDevicePixelRatio(widget->devicePixelRatioF());
+    const double ratio = widget->devicePixelRatioF();
+    const int extent = widget->fontMetrics().lineSpacing() * 3 / 2;
+    QPixmap pixmap(qRound(extent * ratio), qRound(extent * ratio));
+    pixmap.setDevicePixelRatio(ratio);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(extent / 24.0, extent / 24.0);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(widget->palette().color(QPalette::Active, QPalette::Highlight));
+    painter.drawEllipse(QRectF(1, 1, 22, 22));
+    painter.setBrush(widget->palette().color(QPalette::Active, QPalette::HighlightedText));
+    painter.drawEllipse(QRectF(10.25, 5.25, 3.5, 3.5));
+    painter.drawRoundedRect(QRectF(10.5, 10.5, 3, 8.5), 1, 1);
     return pixmap;
 }
 
@@ -84,15 +98,13 @@ bool PopupContent::_breakParagraph(const QString &paragraph, const QWidget *widg
     for (QTextLine line = layout.createLine(); line.isValid() && bMore; line = layout.createLine()) {
         line.setLineWidth(m_maximumWidth);
         const int end = line.textStart() + line.textLength();
-        bMore = m_lines.size() + 1 < MaximumLines;
+        bMore = m_lines.size() + 1 < m_maximumLines;
         if (bMore || (isLast && end == paragraph.size()))
             _append(paragraph.mid(line.textStart(), line.textLength()).trimmed(), widget);
         else
             _elideLastLine(paragraph.mid(line.textStart()), widget);
     }
     layout.endLayout();
-    if (paragraph.isEmpty() && !isLast)
-        _append(QString(), widget);
     return bMore;
 }
 
@@ -143,7 +155,7 @@ void PopupContent::paint(QPainter *painter, const QWidget *widget) const
     };
     painter->drawPixmap(place(m_pixmapSize, Qt::AlignLeft), m_pixmap);
     painter->setPen(ink);
-    QRect line = place(m_textSize, m_pixmapSize.isEmpty() ? Qt::AlignLeft : Qt::AlignRight);
+    QRect line = place(m_textSize, Qt::AlignRight);
     for (const struLine &each : m_lines) {
         line.setHeight(m_lineHeight);
         painter->setLayoutDirection(each.bRightToLeft ? Qt::RightToLeft : Qt::LeftToRight);

@@ -17,8 +17,12 @@ namespace PYXRuntime {
 class PopupContent final
 {
 public:
-    /** @param pixmap if null, the default one; @p widget is only used here. */
-    PopupContent(const QString &text, const QPixmap &pixmap, const QWidget *widget);
+    /**
+     * @param pixmap if null, the default one
+     * @param available what all of it may take
+     * @param widget is not kept
+     */
+    PopupContent(const QString &text, const QPixmap &pixmap, QSize available, const QWidget *widget);
 
     QSize size() const { return m_size; }
     /** The lines as they are shown, the last one elided where the text was too long. */
@@ -51,8 +55,9 @@ private:
     QSize m_textSize;
     QSize m_size;
     int m_lineHeight;
-    int m_maximumWidth;
     int m_margin;
+    int m_maximumWidth;
+    std::size_t m_maximumLines;
 };
 
 } // namespace PYXRuntime

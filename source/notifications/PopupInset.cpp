@@ -30,13 +30,18 @@ void PopupInset::setOpacity(qreal opacity)
     update();
 }
 
+PopupContent PopupInset::_content() const
+{
+    return PopupContent(m_text, m_pixmap, parentWidget()->size(), this);
+}
+
 void PopupInset::_place()
 {
     const auto *const host = parentWidget();
     QRect reference = host->rect();
     if (!m_area.isNull() && m_area->isVisible() && m_area->window() == host && m_area != host)
         reference = QRect(m_area->mapTo(host, QPoint()), m_area->size());
-    setGeometry(centred(PopupContent(m_text, m_pixmap, this).size(), reference));
+    setGeometry(centred(_content().size(), reference));
 }
 
 bool PopupInset::eventFilter(QObject *watched, QEvent *event)
@@ -55,7 +60,7 @@ void PopupInset::paintEvent(QPaintEvent * /*event*/)
         // As one picture: painted one over the other, half transparent, border and ground would mix.
         QPainter painter(&layer);
         painter.setFont(font());
-        PopupContent(m_text, m_pixmap, this).paint(&painter, this);
+        _content().paint(&painter, this);
     }
     QPainter painter(this);
     painter.setOpacity(m_opacity);

@@ -8,6 +8,8 @@
 
 namespace PYXRuntime {
 
+class PopupContent;
+
 /** A pop-up painted inside a window, which owns it; it stays in the middle of that window or a part of it. */
 class PopupInset final : public QWidget
 {
@@ -24,6 +26,7 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    PopupContent _content() const;
     void _place();
 
     QPointer<const QWidget> m_area;

@@ -57,8 +57,7 @@ QList<struPicture> pictures()
         {"the same, alpha 128", Icons::staticRegisteredIconAutoOverlaidTransparent(
                                     document, plus, 128, 0.5, Regions::ekOverlayRegion_Corners)},
         {"composite", composite()},
-        {"sliced: disabled as normal",
-         Icons::staticInterleavedIcon({{document, QIcon::Disabled, QIcon::Off}})},
+        {"disabled only", Icons::staticInterleavedIcon({{document, QIcon::Disabled, QIcon::Off}})},
         {"interleaved, on", Icons::staticRegisteredIcon(eye), QIcon::On},
         {"interleaved, off", Icons::staticRegisteredIcon(eye)},
         {"not found", Icons::staticIconNotFoundIcon()},

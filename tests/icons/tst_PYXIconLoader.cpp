@@ -104,6 +104,7 @@ private Q_SLOTS:
     void derivesModesAndSizesLikeQIcon();
     void isSharpAtEveryRatio_data();
     void isSharpAtEveryRatio();
+    void isEmptyWithoutScreens();
     void sizesOfDrawingsAreAbidedBy();
     void loadsOneModeAndState();
     void keepsAndOverridesIcons();
@@ -294,6 +295,11 @@ void tst_PYXIconLoader::isSharpAtEveryRatio()
     QCOMPARE(result.output.trimmed(), QString("blurred: 0"));
 }
 
+void tst_PYXIconLoader::isEmptyWithoutScreens()
+{
+    QCOMPARE(runOwnProbe("no screen").exitCode, 0);
+}
+
 void tst_PYXIconLoader::sizesOfDrawingsAreAbidedBy()
 {
     IconFolder folder;
@@ -359,8 +365,9 @@ void tst_PYXIconLoader::noticesNewFiles()
     IconFolder folder;
     folder.draw("a_normal_off.png");
     namespace fs = std::filesystem;
+    std::error_code ignored;
     fs::last_write_time(folder.path({}).toStdString(),
-                        fs::file_time_type::clock::now() - std::chrono::hours(1));
+                        fs::file_time_type::clock::now() - std::chrono::hours(1), ignored);
     PYXIconLoader loader;
     QCOMPARE(imagesOf(loader, folder.path("a")).size(), 1);
     folder.draw("b_normal_off.png");
@@ -423,6 +430,12 @@ void tst_PYXIconLoader::showsTheIconOfAFile()
 int main(int argc, char *argv[])
 {
     const bool bProbe = argc == 3 && qstrcmp(argv[1], "--probe") == 0;
+    if (bProbe && qstrcmp(argv[2], "no screen") == 0) {
+        QCoreApplication app(argc, argv);
+        IconFolder folder;
+        folder.write("a_normal_off.svg", IconFolder::svg(Qt::red));
+        return PYXIconLoader().load(folder.path("a")).isNull() ? 0 : 1;
+    }
     if (bProbe)
         qputenv("QT_SCALE_FACTOR", argv[2]);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps, bProbe);
