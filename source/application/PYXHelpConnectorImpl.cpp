@@ -169,7 +169,7 @@ const struHelpEntries &PYXHelpConnectorImpl::_entries() const
 /** What the object asks help for; the name of an action may end in "Action". */
 QString PYXHelpConnectorImpl::_contextOf(const QObject *object) const
 {
-    const QString context = object->property(ContextProperty).toString();
+    QString context = object->property(ContextProperty).toString();
     if (!context.isEmpty())
         return context;
     const QString name = object->objectName();
