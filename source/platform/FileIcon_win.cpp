@@ -106,7 +106,8 @@ QIcon fileIcon(const QString &path, int index)
         return {};
     native.toWCharArray(buffer);
     WORD which = WORD(std::clamp(index, 0, 0xFFFF));
-    const HICON icon = ExtractAssociatedIconW(GetModuleHandleW(nullptr), buffer, &which);
+    // The module is where some systems look for the icon of files that have none.
+    const HICON icon = ExtractAssociatedIconW(GetModuleHandleW(L"shell32"), buffer, &which);
     if (icon == nullptr)
         return {};
     const QImage image = imageOf(icon);

@@ -147,7 +147,7 @@ void tst_PYXIconLoader::findsFilesByModeAndState_data()
                                     << QStringList{"normal off 16"} << "";
     QTest::newRow("word inside a name") << "print_selected_all" << QStringList{"print_all_normal_on.png"}
                                         << QStringList{"normal on 16"} << "";
-    QTest::newRow("no wildcard") << "s[a]?e" << QStringList{"save_normal_off.png", "s[a]?e_normal_off.png"}
+    QTest::newRow("no wildcard") << "s[a]e" << QStringList{"sae_normal_off.png", "s[a]e_normal_off.png"}
                                  << QStringList{"normal off 16"} << "";
 }
 
