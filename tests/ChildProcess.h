@@ -5,6 +5,7 @@
 #include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
 #include <QtCore/QProcess>
+#include <QtTest/QTest>
 
 /** What a finished child process has left. */
 struct ChildResult
@@ -33,8 +34,22 @@ inline ChildResult runChild(const QString &program, const QStringList &arguments
     return result;
 }
 
-/** Runs this program for what its main() does with "--probe" and @p what. */
+/** Runs this program for what its probe does with @p what. */
 inline ChildResult runOwnProbe(const QString &what)
 {
     return runChild(QCoreApplication::applicationFilePath(), {"--probe", what});
 }
+
+/**
+ * The main() of a test with a probe: int probe(int argc, char **argv), which runOwnProbe() calls in a process
+ * of its own, with what it shall do in argv[2] and before there is an application object.
+ */
+#define PYX_TEST_MAIN_WITH_PROBE(Test, probe)                                                                \
+    int main(int argc, char **argv)                                                                          \
+    {                                                                                                        \
+        if (argc == 3 && qstrcmp(argv[1], "--probe") == 0)                                                   \
+            return probe(argc, argv);                                                                        \
+        QCoreApplication application(argc, argv);                                                            \
+        Test test;                                                                                           \
+        return QTest::qExec(&test, argc, argv);                                                              \
+    }

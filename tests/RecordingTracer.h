@@ -65,3 +65,11 @@ QStringList tracesOf(Function function)
     function();
     return tracer.calls;
 }
+
+/** The traces without their line numbers, which change with every edit. */
+inline QStringList withoutLines(QStringList traces)
+{
+    for (QString &trace : traces)
+        trace.truncate(trace.lastIndexOf('|'));
+    return traces;
+}

@@ -14,6 +14,15 @@ namespace IconSheet {
 namespace {
 
 const QLatin1String EnumeratorPrefix("ekIcon_");
+constexpr int ComparedExtent = 48;
+
+/** Asks for the images, since composed icons tell no sizes. */
+bool isSwitch(const QIcon &icon)
+{
+    const QPixmap off = icon.pixmap(ComparedExtent, QIcon::Normal, QIcon::Off);
+    const QPixmap on = icon.pixmap(ComparedExtent, QIcon::Normal, QIcon::On);
+    return on.toImage() != off.toImage();
+}
 
 } // namespace
 
@@ -29,7 +38,7 @@ QVector<struIconEntry> standardIconEntries()
         const QString name = names.value(id).mid(EnumeratorPrefix.size());
         const QIcon icon = PYXStandardIcons::staticRegisteredIcon(id);
         entries += {name, icon, QIcon::Off};
-        if (!icon.availableSizes(QIcon::Normal, QIcon::On).isEmpty())
+        if (isSwitch(icon))
             entries += {QCoreApplication::translate("IconSheet", "%1 (on)").arg(name), icon, QIcon::On};
     }
     return entries;

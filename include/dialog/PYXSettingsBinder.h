@@ -67,7 +67,7 @@ public:
 
     /** Any other object: how its value is read and written. Call valueChanged() when it changes. */
     void bindValue(QObject *object, const QString &key, const QVariant &fallback,
-                   std::function<QVariant()> read, std::function<void(const QVariant &)> write);
+                   const std::function<QVariant()> &read, std::function<void(const QVariant &)> write);
 
     /** Fills the widgets, without si_modified(); null: with the fallbacks. */
     void load(const PYXSettings *store);

@@ -9,6 +9,7 @@
 
 #include <QtCore/QHash>
 #include <QtCore/QSet>
+#include <QtCore/QVector>
 #include <QtGui/QPixmap>
 
 #include <memory>
@@ -230,6 +231,12 @@ private:
     int m_delayLoadBatchSize;
     QHash<uint, QIcon> m_overrideIcons;
     QHash<uint, QIcon> m_specialIcons;
+    struct struMadeIcon
+    {
+        QVector<qint64> keys; ///< of the parts
+        QIcon icon;
+    };
+    QHash<uint, struMadeIcon> m_madeIcons;
     QList<QSet<uint>> m_batches;
     bool m_bBatchUnderway = false;
 };

@@ -160,7 +160,8 @@ void PYXSettingsBinder::bind(QButtonGroup *group, const QString &key, int fallba
 }
 
 void PYXSettingsBinder::bindValue(QObject *object, const QString &key, const QVariant &fallback,
-                                  std::function<QVariant()> read, std::function<void(const QVariant &)> write)
+                                  const std::function<QVariant()> &read,
+                                  std::function<void(const QVariant &)> write)
 {
     m_fields.push_back({object, key, fallback, read, std::move(write),
                         [read](const QVariant &value) { return converted(value, read().userType()); }});

@@ -291,6 +291,7 @@ void PYXSettingsDialog::_bindPages()
 void PYXSettingsDialog::_fillPages()
 {
     _bindPages();
+    connectToLocaleChange(this, SLOT(sl_retranslateUi()));
     m_bCollectingChanges = true;
     const auto pages = _pagesInTreeOrder();
     for (PYXSettingsHandlerWidget *const page : pages) {

@@ -51,8 +51,9 @@ void PYXSettingsDialog::_sl_SettingsTree_currentItemChanged(QTreeWidgetItem *a_c
 {
     if (m_bClosing)
         return;
-    if (SettingsTree::isCategory(a_current) && a_previous != nullptr && a_previous->parent() == a_current) {
-        a_current->setExpanded(true);
+    QTreeWidgetItem *const category = SettingsTree::isCategory(a_current) ? a_current : nullptr;
+    if (category != nullptr && a_previous != nullptr && a_previous->parent() == category) {
+        category->setExpanded(true);
         m_form->tree->setCurrentItem(a_previous);
         return;
     }
@@ -67,9 +68,9 @@ void PYXSettingsDialog::_sl_SettingsTree_currentItemChanged(QTreeWidgetItem *a_c
         _showErrors(errors);
         return;
     }
-    if (SettingsTree::isCategory(a_current) && a_current->childCount() > 0) {
-        a_current->setExpanded(true);
-        m_form->tree->setCurrentItem(SettingsTree::firstPageOf(a_current));
+    if (category != nullptr && category->childCount() > 0) {
+        category->setExpanded(true);
+        m_form->tree->setCurrentItem(SettingsTree::firstPageOf(category));
         return;
     }
     _showItem(a_current);

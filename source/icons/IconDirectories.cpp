@@ -41,12 +41,6 @@ QStringList IconDirectories::filesBeginningWith(const QDir &dir, const QString &
     return found;
 }
 
-bool IconDirectories::hasDirectory(const QDir &dir, const QString &name)
-{
-    // The file system decides whether case matters.
-    return _listing(dir).directories.contains(name, Qt::CaseInsensitive) && dir.exists(name);
-}
-
 void IconDirectories::beginSearch()
 {
     m_bUsedKept = false;

@@ -18,7 +18,7 @@ class IconDirectories final
 public:
     /** Sorted; that begin so in any case of letters. */
     QStringList filesBeginningWith(const QDir &dir, const QString &prefix);
-    bool hasDirectory(const QDir &dir, const QString &name);
+    QStringList directories(const QDir &dir) { return _listing(dir).directories; }
 
     void beginSearch();
     /** Whether nothing was found since then, some of it in kept listings. */

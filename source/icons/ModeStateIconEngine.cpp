@@ -168,8 +168,9 @@ void ModeStateIconEngine::forgetDrawings()
 std::optional<struModeState> ModeStateIconEngine::_match(QIcon::Mode mode, QIcon::State state) const
 {
     const QIcon::State otherState = state == QIcon::On ? QIcon::Off : QIcon::On;
-    const int row = mode >= 0 && mode < ModeCount ? mode : QIcon::Normal;
-    for (const struSubstitute &substitute : Substitutes[row]) {
+    const int number = mode;
+    const bool bKnown = number >= 0 && number < ModeCount;
+    for (const struSubstitute &substitute : Substitutes[bKnown ? number : int(QIcon::Normal)]) {
         const struModeState candidate{substitute.mode, substitute.bSameState ? state : otherState};
         if (draws(candidate))
             return candidate;

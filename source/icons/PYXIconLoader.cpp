@@ -235,8 +235,10 @@ PYXIconLoader::FoundImages PYXIconLoader::_findImages_direct(const QDir &dir, co
 PYXIconLoader::FoundImages PYXIconLoader::_findImages_subdirs(const QDir &dir, const QString &baseName)
 {
     FoundImages found;
+    const QStringList directories = m_directories->directories(dir);
     for (const struIconFileTag &tag : iconFileTags()) {
-        if (!m_directories->hasDirectory(dir, tag.folder))
+        // The file system decides whether case matters.
+        if (!directories.contains(tag.folder, Qt::CaseInsensitive) || !dir.exists(tag.folder))
             continue;
         const QDir subdir(dir.absoluteFilePath(tag.folder));
         QStringList paths;

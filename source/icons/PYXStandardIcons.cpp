@@ -353,7 +353,7 @@ QIcon PYXStandardIcons::_registeredIcon(uint id, eMissing missing)
 
 QIcon PYXStandardIcons::_builtinIcon(uint id, eMissing missing, eParts parts)
 {
-    const QIcon made = _madeIcon(id, parts);
+    QIcon made = _madeIcon(id, parts);
     if (!made.isNull())
         return made;
     const auto path = m_builtinPaths.constFind(id);

@@ -46,7 +46,7 @@ StandardIconCallbacks::struAnswer StandardIconCallbacks::ask(uint id)
     for (auto entry = entries.crbegin(); entry != entries.crend(); ++entry) {
         if (id < entry->firstId || id > entry->lastId || m_beingAsked.contains({entry->callback, id}))
             continue;
-        const struAnswer answer = _ask(*entry, id);
+        struAnswer answer = _ask(*entry, id);
         if (!answer.icon.isNull() || !answer.path.isEmpty())
             return answer;
     }

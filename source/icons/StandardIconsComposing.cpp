@@ -131,8 +131,12 @@ QIcon PYXStandardIcons::_madeIcon(uint id, eParts parts)
     const QIcon noEye = part(ekIcon_Overlay_Eye_No);
     if (eye.isNull() || noEye.isNull())
         return {};
-    return PYXRuntime::interleavedIcon(
-        {{eye, {QIcon::Normal, QIcon::On}}, {noEye, {QIcon::Normal, QIcon::Off}}});
+    const QVector<qint64> keys{eye.cacheKey(), noEye.cacheKey()};
+    struMadeIcon &made = m_madeIcons[id];
+    if (made.keys != keys)
+        made = {keys, PYXRuntime::interleavedIcon(
+                          {{eye, {QIcon::Normal, QIcon::On}}, {noEye, {QIcon::Normal, QIcon::Off}}})};
+    return made.icon;
 }
 
 } // namespace PYXRuntime

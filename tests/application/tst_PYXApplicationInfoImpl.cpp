@@ -18,8 +18,6 @@ using Info = PYXApplicationInfoImpl;
 
 namespace {
 
-const QLatin1String WithoutApplication("--without-application");
-
 /** Has its user's documents elsewhere. */
 class MovedDocuments : public Info
 {
@@ -29,6 +27,11 @@ public:
         return code == eSystemUserDocuments ? QString("Z:/moved") : Info::getSpecialDirPath(code, create);
     }
 };
+
+QString pathOf(Info &info, uint code)
+{
+    return info.getSpecialDirPath(code, false);
+}
 
 } // namespace
 
@@ -54,10 +57,14 @@ private slots:
     void createsAndRemembersDirectories();
 
 private:
-    /** "{5}" stands for the shell's folder 5, "{mount}" for the drive without a letter. */
+    /**
+     * "{5}" stands for the shell's folder 5, "{5o}" for the organisation's directory there, "{5a}" for the
+     * application's; "{mount}" for the drive without a letter.
+     */
     QString expanded(QString text) const
     {
-        text.replace("{mount}", m_home->path("mount"));
+        text.replace("{mount}", m_home->path("mount")).replace("o}", "}/Organisation");
+        text.replace("a}", "}/Organisation/Application");
         return text.replace(QRegularExpression("\\{(\\d+)\\}"), m_home->path("shell/\\1"));
     }
 
@@ -103,7 +110,7 @@ void tst_PYXApplicationInfoImpl::standardObjectIsRegistered()
 
 void tst_PYXApplicationInfoImpl::worksWithoutAnApplicationObject()
 {
-    const ChildResult child = runChild(QCoreApplication::applicationFilePath(), {WithoutApplication});
+    const ChildResult child = runOwnProbe("without application");
     QVERIFY(child.bFinished);
     QCOMPARE(child.exitCode, 0);
     const QString message = "PYXRuntime::PYXApplicationInfoImpl: no QCoreApplication instance available, "
@@ -134,72 +141,38 @@ static int runWithoutApplication(int argc, char **argv)
 
 void tst_PYXApplicationInfoImpl::codesHaveTheirPaths()
 {
-    const struct
-    {
-        uint code;
-        const char *name;
-        const char *path;
-    } rows[] = {
-        {0, "eApplicationBaseDir", "C:/Prog/App"},
-        {1, "eApplicationPluginsBaseDir", "C:/Prog/App/plugins"},
-        {2, "eApplicationUserPublicDataBaseDir", "{5}/Organisation/Application"},
-        {3, "<unknown> 3", "{39}/Organisation/Application"},
-        {4, "eApplicationUserPrivateDataBaseDir", "{26}/Organisation/Application"},
-        {5, "eApplicationLocalDataBaseDir", "{28}/Organisation/Application"},
-        {6, "eApplicationOutputBaseDir", "{5}/Organisation/Application"},
-        {7, "eApplicationLogsDir", "{5}/Organisation/Application/logs"},
-        {8, "eApplicationDatastreamsDir", "{5}/Organisation/Application/datastreams"},
-        {9, "eApplicationResultsDir", "{5}/Organisation/Application/results"},
-        {10, "eApplicationJobsDir", "{5}/Organisation/Application/jobs"},
-        {11, "eApplicationProjectsDir", "{5}/Organisation/Application/projects"},
-        {12, "eApplicationCorrelationSamplesDir", "{5}/Organisation/Application/correlationsamples"},
-        {13, "eApplicationReportsDir", "{5}/Organisation/Application/reports"},
-        {14, "eApplicationDiagramsDir", "{5}/Organisation/Application/diagrams"},
-        {15, "eApplicationLayoutsDir", "{5}/Organisation/Application/layouts"},
-        {16, "eApplicationUserDiskCacheBaseDir", "{28}/Organisation/Application/cache"},
-        {17, "eApplicationParamSetsDir", "{5}/Organisation/Application/paramsets"},
-        {18, "eApplicationDictionariesDir", "C:/Prog/App/dictionaries"},
-        {19, "eApplicationUserDictionariesDir", "{5}/Organisation/Application/dictionaries"},
-        {20, "eApplicationScriptsDir", "{5}/Organisation/Application/scripts"},
-        {21, "eApplicationDriveLetter", "C"},
-        {22, "eApplicationDriveRoot", "C:"},
-        {23, "eApplicationCommonPrivateDataBaseDir", "{35}/Organisation/Application"},
-        {24, "eApplicationCommonPublicDataBaseDir", "{46}/Organisation/Application"},
-        {25, "eOrganizationSharedRootDir", "{5}/Organisation/Shared"},
-        {26, "eOrganizationSharedScriptsDir", "{5}/Organisation/Shared/scripts"},
-        {27, "eOrganizationSharedCollectionsDir", "{5}/Organisation/Shared/collections"},
-        {28, "eOrganizationSharedDetectorProfilesDir", "{5}/Organisation/Shared/detectorprofiles"},
-        {29, "eOrganizationUserPublicDataBaseDir", "{5}/Organisation"},
-        {30, "<unknown> 30", "{39}/Organisation"},
-        {31, "eOrganizationUserPrivateDataBaseDir", "{26}/Organisation"},
-        {32, "eOrganizationLocalDataBaseDir", "{28}/Organisation"},
-        {33, "eOrganizationOutputBaseDir", "{5}/Organisation"},
-        {34, "eOrganizationCommonPrivateDataBaseDir", "{35}/Organisation"},
-        {35, "eOrganizationCommonPublicDataBaseDir", "{46}/Organisation"},
-        {100, "eSystemUserDocuments", "{5}"},
-        {101, "<unknown> 101", "{39}"},
-        {102, "eSystemUserAppData", "{26}"},
-        {103, "eSystemUserLocalAppData", "{28}"},
-        {104, "eSystemProgramFiles", "{38}"},
-        {105, "eSystemProgramFilesCommon", "{43}"},
-        {106, "eSystemDesktop", "{0}"},
-        {107, "eSystemTemporaryFiles", "/temporary"},
-        {108, "eSystemCommonAppData", "{35}"},
-        {109, "eSystemCommonDocuments", "{46}"},
-        {36, "<unknown> 36", "."},
-        {110, "<unknown> 110", "."},
-        {1000, "<unknown> 1000", "."},
-        {1003, "eSpecialDirFirstUser + 3", "."},
-    };
+    // The code of the first and the beginning of all names; the rest of each name, if it has one, and path.
+    const char *const rows[] = {
+        R"(0 eApplication BaseDir=C:/Prog/App PluginsBaseDir=C:/Prog/App/plugins UserPublicDataBaseDir={5a} ={39a}
+        UserPrivateDataBaseDir={26a} LocalDataBaseDir={28a} OutputBaseDir={5a} LogsDir={5a}/logs
+        DatastreamsDir={5a}/datastreams ResultsDir={5a}/results JobsDir={5a}/jobs ProjectsDir={5a}/projects
+        CorrelationSamplesDir={5a}/correlationsamples ReportsDir={5a}/reports DiagramsDir={5a}/diagrams
+        LayoutsDir={5a}/layouts UserDiskCacheBaseDir={28a}/cache ParamSetsDir={5a}/paramsets
+        DictionariesDir=C:/Prog/App/dictionaries UserDictionariesDir={5a}/dictionaries ScriptsDir={5a}/scripts
+        DriveLetter=C DriveRoot=C: CommonPrivateDataBaseDir={35a} CommonPublicDataBaseDir={46a})",
+        R"(25 eOrganization SharedRootDir={5o}/Shared SharedScriptsDir={5o}/Shared/scripts
+        SharedCollectionsDir={5o}/Shared/collections SharedDetectorProfilesDir={5o}/Shared/detectorprofiles
+        UserPublicDataBaseDir={5o} ={39o} UserPrivateDataBaseDir={26o} LocalDataBaseDir={28o}
+        OutputBaseDir={5o} CommonPrivateDataBaseDir={35o} CommonPublicDataBaseDir={46o} =.)",
+        R"(100 eSystem UserDocuments={5} ={39} UserAppData={26} UserLocalAppData={28} ProgramFiles={38}
+        ProgramFilesCommon={43} Desktop={0} TemporaryFiles=/temporary CommonAppData={35} CommonDocuments={46} =.)",
+        "1000 none =."};
     Info info;
-    for (const auto &row : rows) {
-        const QString name(row.name);
-        QCOMPARE(Info::getSpecialDirEnumName(row.code), name);
-        QVERIFY2(info.getSpecialDirPath(row.code, false) == expanded(row.path), row.name);
-        const bool bNamed = !name.contains(' ');
-        QCOMPARE(Info::staticSpecialDirsEnumByValue().value(row.code), bNamed ? name : QString());
-        QCOMPARE(Info::staticSpecialDirsEnumByName().value(name, 9999), bNamed ? row.code : 9999);
+    for (const char *const row : rows) {
+        const QStringList words = QString(row).simplified().split(' ');
+        uint code = words[0].toUInt();
+        for (const QString &place : words.mid(2)) {
+            const bool bNamed = !place.startsWith('=');
+            const QString name = bNamed ? words[1] + place.section('=', 0, 0) : QString();
+            QCOMPARE(Info::getSpecialDirEnumName(code), bNamed ? name : QString("<unknown> %1").arg(code));
+            QCOMPARE(pathOf(info, code), expanded(place.section('=', 1)));
+            QCOMPARE(Info::staticSpecialDirsEnumByValue().value(code), name);
+            QCOMPARE(Info::staticSpecialDirsEnumByName().value(name, 9999), bNamed ? code : 9999);
+            ++code;
+        }
     }
+    QCOMPARE(Info::getSpecialDirEnumName(1003), QString("eSpecialDirFirstUser + 3"));
+    QCOMPARE(pathOf(info, 1003), QString("."));
     QCOMPARE(Info::staticSpecialDirsEnumByName().size(), 43);
 }
 
@@ -214,10 +187,10 @@ void tst_PYXApplicationInfoImpl::programPlaces()
     for (const auto &[program, base, plugins, root] : rows) {
         m_program = program;
         Info info;
-        QCOMPARE(info.getSpecialDirPath(Info::eApplicationBaseDir, false), QString(base));
-        QCOMPARE(info.getSpecialDirPath(Info::eApplicationPluginsBaseDir, false), QString(plugins));
-        QCOMPARE(info.getSpecialDirPath(Info::eApplicationDriveRoot, false), QString(root));
-        QCOMPARE(info.getSpecialDirPath(Info::eApplicationDriveLetter, false), QString(root).left(1));
+        QCOMPARE(pathOf(info, Info::eApplicationBaseDir), QString(base));
+        QCOMPARE(pathOf(info, Info::eApplicationPluginsBaseDir), QString(plugins));
+        QCOMPARE(pathOf(info, Info::eApplicationDriveRoot), QString(root));
+        QCOMPARE(pathOf(info, Info::eApplicationDriveLetter), QString(root).left(1));
     }
 }
 
@@ -227,51 +200,40 @@ void tst_PYXApplicationInfoImpl::namesAndTemporaryFilesHaveDefaults()
     QCoreApplication::setApplicationName({});
     Info info;
     info.setSpecialDirCompatibilityMode(true);
-    QCOMPARE(info.getSpecialDirPath(Info::eApplicationLocalDataBaseDir, false),
+    QCOMPARE(pathOf(info, Info::eApplicationLocalDataBaseDir),
              expanded("{28}/Varnholt/tst_PYXApplicationInfoImpl"));
     qputenv("TMP", "/second/");
     qunsetenv("TEMP");
-    QCOMPARE(info.getSpecialDirPath(Info::eSystemTemporaryFiles, false), QString("/second"));
+    QCOMPARE(pathOf(info, Info::eSystemTemporaryFiles), QString("/second"));
     qunsetenv("TMP");
-    QCOMPARE(info.getSpecialDirPath(Info::eSystemTemporaryFiles, false),
+    QCOMPARE(pathOf(info, Info::eSystemTemporaryFiles),
              QStandardPaths::writableLocation(QStandardPaths::TempLocation));
 }
 
 void tst_PYXApplicationInfoImpl::portablePrograms()
 {
-    const struct
-    {
-        const char *program;
-        bool bCompatible;
-        uint code;
-        const char *path;
-    } rows[] = {
-        {"E:/App/bin", false, 100, "/portable/Personal/Documents"},
-        {"E:/App/bin", false, 101, "/portable/Personal/Pictures"},
-        {"E:/App/bin", false, 102, "/portable/Personal/AppData/Roaming"},
-        {"E:/App/bin", false, 103, "/portable/Personal/AppData/Local"},
-        {"E:/App/bin", false, 104, "{38}"},
-        {"E:/App/bin", false, 108, "/portable/Common/AppData"},
-        {"E:/App/bin", false, 109, "/portable/Common/Documents"},
-        {"E:/App/bin", false, 7, "/portable/Personal/Documents/Organisation/Application/logs"},
-        {"E:/App/bin", false, 16, "/temporary/Organisation/Application/cache"},
-        {"/media/App", false, 103, "{mount}/portable/Personal/AppData/Local"},
-        {"/media/App", false, 109, "{mount}/portable/Common/Documents"},
-        {"E:/App/bin", true, 100, "E:/App/portable/Personal Documents"},
-        {"E:/App/bin", true, 101, "E:/App/portable/Personal Pictures"},
-        {"E:/App/bin", true, 102, "E:/App/portable/Roaming Data"},
-        {"/media/App", true, 103, "/media/App/portable/Local Data"},
-        {"E:/App/bin", true, 108, "{35}"},
-        {"E:/App/bin", true, 109, "{46}"},
-    };
+    // Whether it is in the compatibility mode; the program, and the paths of codes.
+    const std::pair<bool, QString> programs[] = {
+        {false, "E:/App/bin; 100=/portable/Personal/Documents; 101=/portable/Personal/Pictures; "
+                "102=/portable/Personal/AppData/Roaming; 103=/portable/Personal/AppData/Local; 104={38}; "
+                "108=/portable/Common/AppData; 109=/portable/Common/Documents; "
+                "7=/portable/Personal/Documents/Organisation/Application/logs; "
+                "16=/temporary/Organisation/Application/cache"},
+        {false, "/media/App; 103={mount}/portable/Personal/AppData/Local; "
+                "109={mount}/portable/Common/Documents"},
+        {true, "E:/App/bin; 100=E:/App/portable/Personal Documents; 101=E:/App/portable/Personal Pictures; "
+               "102=E:/App/portable/Roaming Data; 108={35}; 109={46}"},
+        {true, "/media/App; 103=/media/App/portable/Local Data"}};
     m_bRemovable = true;
-    for (const auto &row : rows) {
-        m_program = row.program;
+    for (const auto &[bCompatible, text] : programs) {
+        const QStringList paths = text.split("; ");
+        m_program = paths[0];
         Info info;
         info.setInitializeSettingsPaths(false);
-        info.setSpecialDirCompatibilityMode(row.bCompatible);
+        info.setSpecialDirCompatibilityMode(bCompatible);
         QVERIFY(info.isRunningFromPortableDevice());
-        QCOMPARE(info.getSpecialDirPath(row.code, false), expanded(row.path));
+        for (const QString &path : paths.mid(1))
+            QCOMPARE(pathOf(info, path.section('=', 0, 0).toUInt()), expanded(path.section('=', 1)));
     }
 }
 
@@ -284,41 +246,33 @@ void tst_PYXApplicationInfoImpl::markedProgramIsPortable()
     Info info;
     info.setInitializeSettingsPaths(false);
     QVERIFY(info.isRunningFromPortableDevice());
-    const bool bLetters = !info.getSpecialDirPath(Info::eApplicationDriveRoot, false).isEmpty();
-    QCOMPARE(info.getSpecialDirPath(Info::eSystemUserLocalAppData, false),
+    const bool bLetters = !pathOf(info, Info::eApplicationDriveRoot).isEmpty();
+    QCOMPARE(pathOf(info, Info::eSystemUserLocalAppData),
              (bLetters ? "/portable" : m_home->path("App/portable-data")) + "/Personal/AppData/Local");
     info.setSpecialDirCompatibilityMode(true);
-    QCOMPARE(info.getSpecialDirPath(Info::eSystemUserLocalAppData, false),
-             m_home->path("App/portable-data/Local Data"));
+    QCOMPARE(pathOf(info, Info::eSystemUserLocalAppData), m_home->path("App/portable-data/Local Data"));
     QVERIFY(marker.remove());
     info.setSpecialDirCompatibilityMode(false);
     QVERIFY(!info.isRunningFromPortableDevice());
-    QCOMPARE(info.getSpecialDirPath(Info::eSystemUserLocalAppData, false), expanded("{28}"));
+    QCOMPARE(pathOf(info, Info::eSystemUserLocalAppData), expanded("{28}"));
 }
 
 void tst_PYXApplicationInfoImpl::pathsOnThePortableDrive()
 {
-    const struct
-    {
-        const char *program;
-        bool bRemovable;
-        QString path;
-        QString modified;
-    } cases[] = {
-        {"E:/App", true, "E:/data/x.wav", "/data/x.wav"},
-        {"E:/App", true, "e:\\data\\x.wav", "/data/x.wav"},
-        {"E:/App", true, "E:/", "/"},
-        {"E:/App", true, "E:", "/"},
-        {"E:/App", true, "D:/data/../x", "D:/data/../x"},
-        {"E:/App", false, "E:/data", "E:/data"},
-        {"/media/App", true, "/media/x", "/media/x"},
-    };
-    for (const auto &c : cases) {
-        m_program = c.program;
-        m_bRemovable = c.bRemovable;
-        Info info;
-        info.setInitializeSettingsPaths(false);
-        QCOMPARE(info.modifyPathForPortableDevice(c.path), c.modified);
+    const char *const paths[][3] = {{"E:/App", "E:/data/x.wav", "/data/x.wav"},
+                                    {"E:/App", "e:\\data\\x.wav", "/data/x.wav"},
+                                    {"E:/App", "E:/", "/"},
+                                    {"E:/App", "E:", "/"},
+                                    {"E:/App", "D:/data/../x", "D:/data/../x"},
+                                    {"/media/App", "/media/x", "/media/x"}};
+    for (const auto &[program, path, modified] : paths) {
+        for (const bool bRemovable : {true, false}) {
+            m_program = program;
+            m_bRemovable = bRemovable;
+            Info info;
+            info.setInitializeSettingsPaths(false);
+            QCOMPARE(info.modifyPathForPortableDevice(path), QString(bRemovable ? modified : path));
+        }
     }
 }
 
@@ -380,12 +334,12 @@ void tst_PYXApplicationInfoImpl::switchesRecompute()
     info.ensureInitialized();
     QVERIFY(!info.needsInitialize());
     m_program = "D:/Elsewhere";
-    QCOMPARE(info.getSpecialDirPath(Info::eApplicationBaseDir, false), QString("C:/Prog/App"));
+    QCOMPARE(pathOf(info, Info::eApplicationBaseDir), QString("C:/Prog/App"));
     info.setSpecialDirCompatibilityMode(false);
     QVERIFY(!info.needsInitialize());
     info.setInitializeSettingsPaths(false); // the same value, but set for the first time
     QVERIFY(info.needsInitialize());
-    QCOMPARE(info.getSpecialDirPath(Info::eApplicationBaseDir, false), QString("D:/Elsewhere"));
+    QCOMPARE(pathOf(info, Info::eApplicationBaseDir), QString("D:/Elsewhere"));
     info.setSpecialDirCompatibilityMode(true);
     QVERIFY(info.needsInitialize());
 }
@@ -402,7 +356,7 @@ void tst_PYXApplicationInfoImpl::sharedPathsComeFromTheSettings()
     QCOMPARE(stored("Paths/Scripts"), expanded("{5}/Organisation/Shared/scripts"));
 
     PYXSettings(PYXSettings::eDefaultSharedSettings).setValue("Paths/Scripts", "/moved");
-    QCOMPARE(info.getSpecialDirPath(Info::eOrganizationSharedScriptsDir, false), QString("/moved"));
+    QCOMPARE(pathOf(info, Info::eOrganizationSharedScriptsDir), QString("/moved"));
     QCOMPARE(info.getCurrent_SharedSpecialDir(26, false), QDir("/moved"));
     QCOMPARE(info.getDefault_SharedSpecialDirPath(26, false), expanded("{5}/Organisation/Shared/scripts"));
     PYXSettings(PYXSettings::eDefaultSharedSettings).remove("Paths/Scripts");
@@ -456,13 +410,5 @@ void tst_PYXApplicationInfoImpl::createsAndRemembersDirectories()
     QVERIFY(info.getLayoutDirection("page") != info.getLayoutDirection("other"));
 }
 
-int main(int argc, char **argv)
-{
-    if (argc > 1 && QLatin1String(argv[1]) == WithoutApplication)
-        return runWithoutApplication(argc, argv);
-    QCoreApplication application(argc, argv);
-    tst_PYXApplicationInfoImpl test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+PYX_TEST_MAIN_WITH_PROBE(tst_PYXApplicationInfoImpl, runWithoutApplication)
 #include "tst_PYXApplicationInfoImpl.moc"

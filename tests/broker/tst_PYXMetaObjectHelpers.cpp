@@ -80,7 +80,7 @@ void tst_PYXMetaObjectHelpers::compatibility()
         bool bCompatible = false;
         QStringList report = tracesOf(
             [&] { bCompatible = PYXMetaObjectHelpers::checkInterfaceCompatibility(&object, &interface); });
-        report.replaceInStrings(QRegularExpression("\\|source\\\\PYXMetaObjectHelpers\\|\\d+$"), "");
+        report = withoutLines(report).replaceInStrings("|source\\PYXMetaObjectHelpers", "");
         return report + QStringList{bCompatible ? "compatible" : "incompatible"};
     };
     QCOMPARE(check(Derived()), QStringList{"compatible"});

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PYXRuntime developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "ChildProcess.h"
+#include "FileContents.h"
 #include "PYXRuntimeCenter.h"
 #include "RecordingTracer.h"
 
@@ -21,12 +22,6 @@ QString switchesOf(uint token)
            (Center::isEnabled_pyxWarning(token) ? "w" : "");
 }
 
-bool writeFile(const QString &path, const QByteArray &content)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
-}
-
 } // namespace
 
 class tst_PYXRuntimeCenter : public QObject
@@ -39,7 +34,6 @@ private slots:
     void scopesInOneGateSlotSwitchApart();
     void messagesGoToTheTrace();
     void disabledTextsAreNotMade();
-    void configFile_data();
     void configFile();
     void configFilePlaces();
     void switchesWhileOthersWrite();
@@ -137,45 +131,32 @@ void tst_PYXRuntimeCenter::disabledTextsAreNotMade()
     QCOMPARE(made, 1);
 }
 
-void tst_PYXRuntimeCenter::configFile_data()
+void tst_PYXRuntimeCenter::configFile()
 {
-    QTest::addColumn<QByteArray>("file");
-    QTest::addColumn<QString>("state");
-    QTest::addColumn<QString>("messages");
-    const auto row = [](const char *name, const QByteArray &file, const char *state,
-                        const QString &messages) {
-        QTest::newRow(name) << file << QString(state) << messages;
+    const auto row = [this](const QByteArray &file, const QString &state, const QString &messages) {
+        put(m_preferredFile, file);
+        const ChildResult result = runProbe({"direct", "Late"});
+        QCOMPARE(result.exitCode, 0);
+        QCOMPARE(result.output, state);
+        // On Windows these lines go to the debugger.
+        if (!messages.isNull() && QSysInfo::kernelType() != "winnt")
+            QCOMPARE(result.errors,
+                     "PYXRuntime::PYXRuntimeCenter::_readConfigFile('" + m_preferredFile + "')\n" + messages);
     };
     const QString all = "  found runtime scope '*'\n";
     const QString late = "  found runtime scope 'Late'\n -> yet unknown, creating\n";
-    row("comments and blank lines", "# Late:+d\n\n   \n\t# x\n", "td0 tw1 Late d0 w1", "");
-    row("all scopes, also later ones", "*:+d:-w:+td:-tw", "td1 tw0 Late d1 w0",
-        all + " +d\n -w\n +td\n -tw\n");
-    row("one scope before its module", " Late : +D :-w \n", "td0 tw1 Late d1 w0", late + " +d\n -w\n");
-    row("options a scope does not know", "Late:+td:+x::+d", "td0 tw1 Late d1 w1",
+    row("# Late:+d\n\n   \n\t# x\n", "td0 tw1 Late d0 w1", "");
+    row("*:+d:-w:+td:-tw", "td1 tw0 Late d1 w0", all + " +d\n -w\n +td\n -tw\n");
+    row(" Late : +D :-w \n", "td0 tw1 Late d1 w0", late + " +d\n -w\n");
+    row("Late:+td:+x::+d", "td0 tw1 Late d1 w1",
         late + " unknown option '+td'\n unknown option '+x'\n unknown option ''\n +d\n");
-    row("names keep their case", "LATE:+d", "td0 tw1 Late d0 w1",
-        "  found runtime scope 'LATE'\n -> yet unknown, creating\n +d\n");
-    row("no name", ":+d\nLate:+d", "td0 tw1 Late d1 w1",
+    row("LATE:+d", "td0 tw1 Late d0 w1", "  found runtime scope 'LATE'\n -> yet unknown, creating\n +d\n");
+    row(":+d\nLate:+d", "td0 tw1 Late d1 w1",
         "  found runtime scope ''\n -> yet unknown, creating\n -> invalid token, skipping\n" + late +
             " +d\n");
-    row("the last line wins", "*:+d\nLate:-d\r\n", "td0 tw1 Late d0 w1", all + " +d\n" + late + " -d\n");
-    row("byte-order mark", "\xEF\xBB\xBFLate:+d\n", "td0 tw1 Late d1 w1", late + " +d\n");
-    row("garbage", QByteArray("\xFF\xFE\0:\x80+d\nLate:+d", 15), "td0 tw1 Late d1 w1", QString());
-}
-
-void tst_PYXRuntimeCenter::configFile()
-{
-    QFETCH(QByteArray, file);
-    QFETCH(QString, messages);
-    QVERIFY(writeFile(m_preferredFile, file));
-    const ChildResult result = runProbe({"direct", "Late"});
-    QCOMPARE(result.exitCode, 0);
-    QTEST(result.output, "state");
-    // On Windows these lines go to the debugger.
-    if (!messages.isNull() && QSysInfo::kernelType() != "winnt")
-        QCOMPARE(result.errors,
-                 "PYXRuntime::PYXRuntimeCenter::_readConfigFile('" + m_preferredFile + "')\n" + messages);
+    row("*:+d\nLate:-d\r\n", "td0 tw1 Late d0 w1", all + " +d\n" + late + " -d\n");
+    row("\xEF\xBB\xBFLate:+d\n", "td0 tw1 Late d1 w1", late + " +d\n");
+    row(QByteArray("\xFF\xFE\0:\x80+d\nLate:+d", 15), "td0 tw1 Late d1 w1", QString());
 }
 
 void tst_PYXRuntimeCenter::configFilePlaces()
@@ -183,13 +164,13 @@ void tst_PYXRuntimeCenter::configFilePlaces()
     // What is no file is passed over: nobody writes to this pipe.
     if (!QStandardPaths::findExecutable("mkfifo").isEmpty())
         QCOMPARE(QProcess::execute("mkfifo", {m_preferredFile}), 0);
-    QVERIFY(writeFile(m_otherFile, "Foo:+d"));
+    put(m_otherFile, "Foo:+d");
     QCOMPARE(runProbe({"loop", "Foo"}).output, QString("td0 tw1 Foo d1 w1"));
     QFile::remove(m_preferredFile);
-    QVERIFY(writeFile(m_preferredFile, ""));
+    put(m_preferredFile, "");
     QCOMPARE(runProbe({"loop", "Foo"}).output, QString("td0 tw1 unknown Foo d0 w1"));
     // A scope that is really called "*" is meant itself.
-    QVERIFY(writeFile(m_preferredFile, "*:+d"));
+    put(m_preferredFile, "*:+d");
     QCOMPARE(runProbe({"star", "*", "Late"}).output, QString("td0 tw1 * d1 w1 Late d0 w1"));
 }
 

@@ -54,8 +54,9 @@ void callEveryForm(const struLevel &level)
 }
 
 /** What a child process does: the debug-out of this process is the test's own output. */
-int runProbe(const QString &what)
+int runProbe(int, char **argv)
 {
+    const QString what = argv[2];
     RecordingTracer tracer;
     if (what == "every level") {
         for (const struLevel &level : Levels)
@@ -114,7 +115,6 @@ class tst_PYXTraceWrapper : public QObject
 {
     Q_OBJECT
 private slots:
-    void writesDebugOut_data();
     void writesDebugOut();
     void coloursOnATerminal();
     void tracersGetEveryForm();
@@ -125,10 +125,8 @@ private slots:
     void tracesFromManyThreads();
 };
 
-void tst_PYXTraceWrapper::writesDebugOut_data()
+void tst_PYXTraceWrapper::writesDebugOut()
 {
-    QTest::addColumn<QString>("output");
-    QTest::addColumn<QString>("errors");
     QString everyLevel;
     for (const struLevel &level : Levels) {
         everyLevel += QString("source\\File(42) : TRACE_@ : te%1xt\n"
@@ -139,23 +137,21 @@ void tst_PYXTraceWrapper::writesDebugOut_data()
                               "source\\File(65535) : TRACE_@ : t\n")
                           .replace('@', QString(level.name).toUpper());
     }
-    QTest::newRow("every level") << "" << everyLevel;
-    QTest::newRow("tracer plugged in") << ""
-                                       << "f(2) : TRACE_WARN : seen\n";
-    QTest::newRow("printf") << "f(1) : TRACE_INFO : 50% 0   end\n"
-                            << "";
-    QTest::newRow("colour") << ""
-                            << "f(1) : TRACE_WARN : yellow\n";
-    if (QSysInfo::kernelType() != "winnt") // there the console's code page decides what arrives
-        QTest::newRow("output functions") << "" << QString::fromUtf8("\xC3\xA4\nwide\n\n");
-}
-
-void tst_PYXTraceWrapper::writesDebugOut()
-{
-    const ChildResult result = runOwnProbe(QTest::currentDataTag());
-    QCOMPARE(result.exitCode, 0);
-    QTEST(result.output, "output");
-    QTEST(result.errors, "errors");
+    const std::tuple<const char *, QString, QString> probes[] = {
+        // with output and errors
+        {"every level", "", everyLevel},
+        {"tracer plugged in", "", "f(2) : TRACE_WARN : seen\n"},
+        {"printf", "f(1) : TRACE_INFO : 50% 0   end\n", ""},
+        {"colour", "", "f(1) : TRACE_WARN : yellow\n"},
+        {"output functions", "", QString::fromUtf8("\xC3\xA4\nwide\n\n")}};
+    for (const auto &[probe, output, errors] : probes) {
+        const ChildResult result = runOwnProbe(probe);
+        QCOMPARE(result.exitCode, 0);
+        QCOMPARE(result.output, output);
+        // On Windows the console's code page decides what arrives.
+        if (QSysInfo::kernelType() != "winnt" || qstrcmp(probe, "output functions") != 0)
+            QCOMPARE(result.errors, errors);
+    }
 }
 
 void tst_PYXTraceWrapper::coloursOnATerminal()
@@ -271,12 +267,5 @@ void tst_PYXTraceWrapper::tracesFromManyThreads()
     QCOMPARE(count.load(), 20'000);
 }
 
-int main(int argc, char **argv)
-{
-    if (argc == 3 && qstrcmp(argv[1], "--probe") == 0)
-        return runProbe(QString::fromLocal8Bit(argv[2]));
-    QCoreApplication application(argc, argv);
-    tst_PYXTraceWrapper test;
-    return QTest::qExec(&test, argc, argv);
-}
+PYX_TEST_MAIN_WITH_PROBE(tst_PYXTraceWrapper, runProbe)
 #include "tst_PYXTraceWrapper.moc"

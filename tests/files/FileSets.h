@@ -2,14 +2,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #pragma once
 
-#include <QtCore/QFile>
 #include <QtCore/QString>
-
-inline QByteArray get(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 /** A set whose files are called "<base>1", "<base>2" ... */
 template <typename Set>

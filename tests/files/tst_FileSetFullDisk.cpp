@@ -3,16 +3,17 @@
 
 // What a full disk does to counting file sets, on a small file system of the test's own.
 
+#include "DataRows.h"
+#include "FileContents.h"
 #include "FileSets.h"
 #include "PYXFileListImpl.h"
 #include "PYXSizeCountingFileSet.h"
 #include "RecordFile.h"
+#include "SmallDisk.h"
 
 #include <QtTest/QtTest>
 
 #include <random>
-#include <sys/mount.h>
-#include <unistd.h>
 
 using namespace PYXRuntime;
 using NumberedSet = Numbered<PYXSizeCountingFileSet>;
@@ -22,8 +23,7 @@ class tst_FileSetFullDisk : public QObject
     Q_OBJECT
 private Q_SLOTS:
     void initTestCase();
-    void cleanup();
-    void cleanupTestCase();
+    void cleanup() { m_disk.clear(); }
     void losesAndDoublesNothing_data();
     void losesAndDoublesNothing();
     void tellsAtTheFlush();
@@ -32,52 +32,22 @@ private Q_SLOTS:
     void noticesRemovedFiles();
 
 private:
-    void fillDisk(qint64 left);
-    void makeRoom() { QVERIFY(QFile::remove(m_mountPoint.filePath("filler"))); }
-
-    QTemporaryDir m_mountPoint;
-    bool m_bMounted = false;
+    const SmallDisk m_disk;
 };
 
 void tst_FileSetFullDisk::initTestCase()
 {
-    if (geteuid() != 0)
-        QSKIP("only root may mount the small file system");
-    if (mount("tmpfs", QFile::encodeName(m_mountPoint.path()).constData(), "tmpfs", 0, "size=2m") != 0)
-        QSKIP("the small file system cannot be mounted here");
-    m_bMounted = true;
-}
-
-void tst_FileSetFullDisk::cleanup()
-{
-    for (const QString &name : QDir(m_mountPoint.path()).entryList(QDir::Files))
-        QFile::remove(m_mountPoint.filePath(name));
-}
-
-void tst_FileSetFullDisk::cleanupTestCase()
-{
-    if (m_bMounted)
-        QCOMPARE(umount(QFile::encodeName(m_mountPoint.path()).constData()), 0);
-}
-
-void tst_FileSetFullDisk::fillDisk(qint64 left)
-{
-    QFile filler(m_mountPoint.filePath("filler"));
-    QVERIFY(filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
-    while (filler.write(QByteArray(4096, 'x')) == 4096) {
-    }
-    QVERIFY(filler.resize(filler.size() - left));
+    if (!m_disk.isMounted())
+        QSKIP("the small file system cannot be mounted; root may, on most systems");
 }
 
 void tst_FileSetFullDisk::losesAndDoublesNothing_data()
 {
-    QTest::addColumn<int>("longestWrite");
-    QTest::addColumn<quint64>("maximum");
-    QTest::addColumn<bool>("bFlush");
-    QTest::addRow("lines") << 200 << quint64(1'000'000) << false;
-    QTest::addRow("flushed lines") << 200 << quint64(1'000'000) << true;
-    QTest::addRow("blocks") << 90'000 << quint64(1'000'000) << false;
-    QTest::addRow("small files") << 5'000 << quint64(10'000) << false;
+    const Rows<int, quint64, bool> rows = {{"lines", 200, 1'000'000U, false},
+                                           {"flushed lines", 200, 1'000'000U, true},
+                                           {"blocks", 90'000, 1'000'000U, false},
+                                           {"small files", 5'000, 10'000U, false}};
+    addRows({"longestWrite", "maximum", "bFlush"}, rows);
 }
 
 void tst_FileSetFullDisk::losesAndDoublesNothing()
@@ -86,11 +56,11 @@ void tst_FileSetFullDisk::losesAndDoublesNothing()
     QFETCH(quint64, maximum);
     QFETCH(bool, bFlush);
     auto *const list = PYXFileListImpl::getInstance();
-    NumberedSet set(m_mountPoint.path(), maximum);
+    NumberedSet set(m_disk.path(), maximum);
     set.setFlushAfterWriting(bFlush);
     set.setRegisterWrittenFiles(true);
     QVERIFY(set.open(QIODevice::WriteOnly));
-    fillDisk(300'000);
+    m_disk.fill(300'000);
     const QSignalSpy spy(&set, &PYXCountingFileSet::si_writeError);
     QByteArray accepted;
     std::mt19937 random(7);
@@ -105,8 +75,8 @@ void tst_FileSetFullDisk::losesAndDoublesNothing()
         const bool bRefused = written < data.size();
         QCOMPARE(spy.count() - errors, bRefused ? 1 : 0);
         refusals += bRefused ? 1 : 0;
-        if (refusals == 20 && QFile::exists(m_mountPoint.filePath("filler")))
-            makeRoom();
+        if (refusals == 20 && QFile::exists(m_disk.path("filler")))
+            m_disk.makeRoom();
         after += refusals >= 20 && !bRefused ? 1 : 0;
     }
     set.close();
@@ -120,10 +90,10 @@ void tst_FileSetFullDisk::losesAndDoublesNothing()
 
 void tst_FileSetFullDisk::tellsAtTheFlush()
 {
-    NumberedSet set(m_mountPoint.path(), 1'000'000);
+    NumberedSet set(m_disk.path(), 1'000'000);
     QVERIFY(set.open(QIODevice::WriteOnly));
     const QSignalSpy spy(&set, &PYXCountingFileSet::si_writeError);
-    fillDisk(0);
+    m_disk.fill(0);
     QCOMPARE(set.write("a line\n"), qint64(7));
     QVERIFY(!set.flush());
     QCOMPARE(spy.count(), 1);
@@ -137,40 +107,40 @@ void tst_FileSetFullDisk::tellsAtTheFlush()
 void tst_FileSetFullDisk::takesTheRestToTheNextFile()
 {
     const QTemporaryDir other;
-    NumberedSet set(m_mountPoint.path(), 1'000'000);
+    NumberedSet set(m_disk.path(), 1'000'000);
     QVERIFY(set.open(QIODevice::WriteOnly));
-    fillDisk(4096);
+    m_disk.fill(4096);
     QCOMPARE(set.write(QByteArray(6000, 'a')), qint64(6000));
     QVERIFY(!set.flush());
     set.setBaseDirectory(other.path());
     QCOMPARE(set.write("b"), qint64(1));
     set.close();
-    const QByteArray first = get(m_mountPoint.filePath("1"));
+    const QByteArray first = get(m_disk.path("1"));
     QCOMPARE(first.size(), 4096);
     QCOMPARE(first + get(other.filePath("2")), QByteArray(6000, 'a') + 'b');
 }
 
 void tst_FileSetFullDisk::translatesLineEndsOnce()
 {
-    RecordFile file(m_mountPoint.filePath("text"), true);
+    RecordFile file(m_disk.path("text"), true);
     QVERIFY(file.create(QIODevice::WriteOnly | QIODevice::Text));
     const QByteArray text = QByteArray("\n").repeated(3000) + "a\r\nb\n";
     // The disk is full in the middle of a line end: after an odd number of bytes.
     QCOMPARE(file.append("x", 1), qint64(1));
     QVERIFY(file.drain());
-    fillDisk(0);
+    m_disk.fill(0);
     QCOMPARE(file.append(text.constData(), text.size()), qint64(text.size()));
     QVERIFY(!file.drain());
-    makeRoom();
+    m_disk.makeRoom();
     QVERIFY(file.drain());
     file.close();
     QByteArray expected = 'x' + text;
-    QVERIFY(get(m_mountPoint.filePath("text")) == expected.replace("\n", "\r\n"));
+    QVERIFY(get(m_disk.path("text")) == expected.replace("\n", "\r\n"));
 }
 
 void tst_FileSetFullDisk::noticesRemovedFiles()
 {
-    NumberedSet set(m_mountPoint.path(), 1'000'000);
+    NumberedSet set(m_disk.path(), 1'000'000);
     set.setFlushAfterWriting(true);
     QVERIFY(set.open(QIODevice::WriteOnly));
     const QSignalSpy spy(&set, &PYXCountingFileSet::si_writeError);
@@ -178,7 +148,7 @@ void tst_FileSetFullDisk::noticesRemovedFiles()
     QVERIFY(QFile::remove(set.currentFilePath()));
     QTRY_VERIFY(spy.count() == 1 || set.write("b") == -1);
     QCOMPARE(set.write("c"), qint64(1));
-    QCOMPARE(get(m_mountPoint.filePath("2")), QByteArray("c"));
+    QCOMPARE(get(m_disk.path("2")), QByteArray("c"));
 }
 
 QTEST_GUILESS_MAIN(tst_FileSetFullDisk)

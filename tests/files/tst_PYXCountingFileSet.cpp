@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PYXRuntime developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
+#include "DataRows.h"
+#include "FileContents.h"
 #include "FileSets.h"
 #include "PYXFileListImpl.h"
 #include "PYXLineCountingFileSet.h"
@@ -22,7 +24,6 @@ class tst_PYXCountingFileSet : public QObject
 private Q_SLOTS:
     void init() { m_directory = std::make_unique<QTemporaryDir>(); }
     void cleanup() { PYXFileListImpl::destroyInstance(); }
-    void namesFilesAfterTheMoment_data();
     void namesFilesAfterTheMoment();
     void movesOnAfterTheMaximum();
     void opensAndTells_data();
@@ -32,7 +33,6 @@ private Q_SLOTS:
     void losesAndDoublesNothing_data();
     void losesAndDoublesNothing();
     void goesOnWhenTheCauseIsGone();
-    void letsListenersCloseOrDeleteIt_data();
     void letsListenersCloseOrDeleteIt();
 
 private:
@@ -41,32 +41,22 @@ private:
     std::unique_ptr<QTemporaryDir> m_directory;
 };
 
-void tst_PYXCountingFileSet::namesFilesAfterTheMoment_data()
-{
-    QTest::addColumn<QString>("baseFileName");
-    QTest::addColumn<QString>("format");
-    QTest::addRow("two suffixes") << "trace.log.txt"
-                                  << "'trace_'yyyy-MM-dd_hh-mm-ss'_UTC.log.txt'";
-    QTest::addRow("no suffix") << "trace"
-                               << "'trace_'yyyy-MM-dd_hh-mm-ss'_UTC'";
-    QTest::addRow("empty") << ""
-                           << "yyyy-MM-dd_hh-mm-ss'_UTC'";
-}
-
 void tst_PYXCountingFileSet::namesFilesAfterTheMoment()
 {
-    QFETCH(QString, baseFileName);
-    QFETCH(QString, format);
-    PYXCountingFileSet set;
-    QCOMPARE(set.baseDirectory(), QDir::tempPath());
-    set.setBaseDirectory(m_directory->path());
-    set.setBaseFileName(baseFileName);
-    const QDateTime before = QDateTime::currentDateTimeUtc();
-    QVERIFY(set.open(QIODevice::WriteOnly));
-    QVERIFY(QFile::exists(set.currentFilePath()));
-    const QStringList possible{path(before.toString(format)),
-                               path(QDateTime::currentDateTimeUtc().toString(format))};
-    QVERIFY2(possible.contains(set.currentFilePath()), qPrintable(set.currentFilePath()));
+    QCOMPARE(PYXCountingFileSet().baseDirectory(), QDir::tempPath());
+    const char *const formats[][2] = {{"trace.log.txt", "'trace_'yyyy-MM-dd_hh-mm-ss'_UTC.log.txt'"},
+                                      {"trace", "'trace_'yyyy-MM-dd_hh-mm-ss'_UTC'"},
+                                      {"", "yyyy-MM-dd_hh-mm-ss'_UTC'"}};
+    for (const auto &[baseFileName, format] : formats) {
+        PYXCountingFileSet set;
+        set.setBaseDirectory(m_directory->path());
+        set.setBaseFileName(baseFileName);
+        const QDateTime before = QDateTime::currentDateTimeUtc();
+        QVERIFY(set.open(QIODevice::WriteOnly) && QFile::exists(set.currentFilePath()));
+        const QStringList possible{path(before.toString(format)),
+                                   path(QDateTime::currentDateTimeUtc().toString(format))};
+        QVERIFY2(possible.contains(set.currentFilePath()), qPrintable(set.currentFilePath()));
+    }
 }
 
 void tst_PYXCountingFileSet::movesOnAfterTheMaximum()
@@ -109,19 +99,18 @@ void tst_PYXCountingFileSet::movesOnAfterTheMaximum()
 
 void tst_PYXCountingFileSet::opensAndTells_data()
 {
-    QTest::addColumn<int>("mode");
-    QTest::addColumn<QStringList>("scopes"); ///< switched on; the first one tells
-    QTest::addColumn<QStringList>("ignored");
-    const QStringList library("PYXRuntime");
-    QTest::addRow("write, nobody hears") << int(QIODevice::WriteOnly) << QStringList() << QStringList();
-    QTest::addRow("read") << int(QIODevice::ReadOnly) << library << QStringList();
-    QTest::addRow("both") << int(QIODevice::ReadWrite) << library << QStringList();
-    QTest::addRow("append") << int(QIODevice::WriteOnly | QIODevice::Append) << QStringList("CountingFileSet")
-                            << QStringList("Append");
-    QTest::addRow("all") << int(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Append |
-                                QIODevice::Unbuffered)
-                         << QStringList({"PYXRuntime", "CountingFileSet"})
-                         << QStringList({"Unbuffered", "Append", "Truncate"});
+    using Device = QIODevice;
+    // Scopes are switched on; the first one tells.
+    const Rows<int, QStringList, QStringList> rows = {
+        {"write, nobody hears", Device::WriteOnly, {}, {}},
+        {"read", Device::ReadOnly, {"PYXRuntime"}, {}},
+        {"both", Device::ReadWrite, {"PYXRuntime"}, {}},
+        {"append", Device::WriteOnly | Device::Append, {"CountingFileSet"}, {"Append"}},
+        {"all",
+         Device::WriteOnly | Device::Truncate | Device::Append | Device::Unbuffered,
+         {"PYXRuntime", "CountingFileSet"},
+         {"Unbuffered", "Append", "Truncate"}}};
+    addRows({"mode", "scopes", "ignored"}, rows);
 }
 
 void tst_PYXCountingFileSet::opensAndTells()
@@ -209,17 +198,11 @@ void tst_PYXCountingFileSet::registersItsFiles()
 
 void tst_PYXCountingFileSet::losesAndDoublesNothing_data()
 {
-    QTest::addColumn<bool>("bLines");
-    QTest::addColumn<quint64>("maximum");
-    QTest::addColumn<int>("longestWrite");
-    QTest::addColumn<int>("mode");
-    for (const int mode : {int(QIODevice::WriteOnly), int(QIODevice::WriteOnly | QIODevice::Text)}) {
-        const char *const name = mode == QIODevice::WriteOnly ? "binary" : "text";
-        QTest::addRow("tiny files, %s", name) << false << quint64(10) << 20 << mode;
-        QTest::addRow("about a buffer, %s", name) << false << quint64(80'000) << 20'000 << mode;
-        QTest::addRow("long writes, %s", name) << false << quint64(200'000) << 140'000 << mode;
-        QTest::addRow("lines, %s", name) << true << quint64(1000) << 20'000 << mode;
-    }
+    const Rows<bool, quint64, int> rows = {{"tiny files", false, 10U, 20},
+                                           {"about a buffer", false, 80'000U, 20'000},
+                                           {"long writes", false, 200'000U, 140'000},
+                                           {"lines", true, 1000U, 20'000}};
+    addRows({"bLines", "maximum", "longestWrite"}, rows);
 }
 
 void tst_PYXCountingFileSet::losesAndDoublesNothing()
@@ -227,34 +210,36 @@ void tst_PYXCountingFileSet::losesAndDoublesNothing()
     QFETCH(bool, bLines);
     QFETCH(quint64, maximum);
     QFETCH(int, longestWrite);
-    QFETCH(int, mode);
-    std::unique_ptr<PYXCountingFileSet> set;
-    if (bLines)
-        set = std::make_unique<LineSet>(m_directory->path(), maximum);
-    else
-        set = std::make_unique<SizeSet>(m_directory->path(), maximum);
-    QVERIFY(set->open(QIODevice::OpenMode(mode)));
-    QCryptographicHash handedOver(QCryptographicHash::Sha256);
-    std::mt19937 random(1);
-    for (int i = 0; i < 200; ++i) {
-        QByteArray data(int(random() % unsigned(longestWrite)) + 1, Qt::Uninitialized);
-        for (char &byte : data)
-            byte = char(random() % 32 == 0 ? '\n' : 'a' + random() % 26);
-        QCOMPARE(set->write(data), qint64(data.size()));
-        handedOver.addData(data);
-        if (i % 50 == 49)
-            QVERIFY(set->switchToNextFile());
+    for (const bool bText : {false, true}) {
+        const QTemporaryDir directory;
+        std::unique_ptr<PYXCountingFileSet> set;
+        if (bLines)
+            set = std::make_unique<LineSet>(directory.path(), maximum);
+        else
+            set = std::make_unique<SizeSet>(directory.path(), maximum);
+        QVERIFY(set->open(bText ? QIODevice::WriteOnly | QIODevice::Text : QIODevice::WriteOnly));
+        QCryptographicHash handedOver(QCryptographicHash::Sha256);
+        std::mt19937 random(1);
+        for (int i = 0; i < 200; ++i) {
+            QByteArray data(int(random() % unsigned(longestWrite)) + 1, Qt::Uninitialized);
+            for (char &byte : data)
+                byte = char(random() % 32 == 0 ? '\n' : 'a' + random() % 26);
+            QCOMPARE(set->write(data), qint64(data.size()));
+            handedOver.addData(data);
+            if (i % 50 == 49)
+                QVERIFY(set->switchToNextFile());
+        }
+        set->close();
+        QVERIFY(set->previousFilesPaths().size() > 4);
+        QCryptographicHash found(QCryptographicHash::Sha256);
+        for (const QString &file : set->previousFilesPaths()) {
+            QByteArray content = get(file);
+            if (TEXT_LINES_END_WITH_CARRIAGE_RETURN && bText)
+                content.replace("\r\n", "\n");
+            found.addData(content);
+        }
+        QCOMPARE(found.result().toHex(), handedOver.result().toHex());
     }
-    set->close();
-    QVERIFY(set->previousFilesPaths().size() > 4);
-    QCryptographicHash found(QCryptographicHash::Sha256);
-    for (const QString &file : set->previousFilesPaths()) {
-        QByteArray content = get(file);
-        if (TEXT_LINES_END_WITH_CARRIAGE_RETURN && (mode & QIODevice::Text) != 0)
-            content.replace("\r\n", "\n");
-        found.addData(content);
-    }
-    QCOMPARE(found.result().toHex(), handedOver.result().toHex());
 }
 
 void tst_PYXCountingFileSet::goesOnWhenTheCauseIsGone()
@@ -280,45 +265,37 @@ void tst_PYXCountingFileSet::goesOnWhenTheCauseIsGone()
     QCOMPARE(get(set.previousFilesPaths().last()), QByteArray("cd"));
 }
 
-void tst_PYXCountingFileSet::letsListenersCloseOrDeleteIt_data()
-{
-    QTest::addColumn<bool>("bDelete");
-    QTest::addColumn<int>("when");
-    for (const bool bDelete : {false, true}) {
-        const char *const deed = bDelete ? "deleted" : "closed";
-        QTest::addRow("%s when the maximum is reached", deed) << bDelete << 0;
-        QTest::addRow("%s when a file is registered", deed) << bDelete << 1;
-        QTest::addRow("%s when a write fails", deed) << bDelete << 2;
-    }
-}
-
 void tst_PYXCountingFileSet::letsListenersCloseOrDeleteIt()
 {
-    QFETCH(bool, bDelete);
-    QFETCH(int, when);
-    QPointer<PYXCountingFileSet> set = new LineSet(m_directory->path());
-    QVERIFY(set->open(QIODevice::WriteOnly));
-    set->setRegisterWrittenFiles(true);
-    set->setBaseDirectory(when == 2 ? path("missing") : path("."));
-    int calls = 0;
-    const auto end = [&] {
-        ++calls;
-        if (bDelete)
+    enum { AtTheMaximum, WhenRegistered, WhenAWriteFails };
+    for (const int when : {AtTheMaximum, WhenRegistered, WhenAWriteFails}) {
+        for (const bool bDelete : {false, true}) {
+            QPointer<PYXCountingFileSet> set = new LineSet(m_directory->path());
+            QVERIFY(set->open(QIODevice::WriteOnly));
+            set->setRegisterWrittenFiles(true);
+            set->setBaseDirectory(when == WhenAWriteFails ? path("missing") : path("."));
+            int calls = 0;
+            const auto end = [&] {
+                ++calls;
+                if (bDelete)
+                    delete set.data();
+                else
+                    set->close();
+            };
+            if (when == AtTheMaximum)
+                connect(set.data(), &PYXCountingFileSet::si_maximumWeightReached, end);
+            else if (when == WhenRegistered)
+                connect(PYXFileListImpl::getInstance(), &PYXIFileList::si_fileCountChanged, end);
+            else
+                connect(set.data(), &PYXCountingFileSet::si_writeError, end);
+            QCOMPARE(set->write("a"), qint64(when == AtTheMaximum ? 1 : -1));
+            QCOMPARE(calls, 1);
+            QCOMPARE(set.isNull(), bDelete);
+            QVERIFY(bDelete || !set->isOpen());
             delete set.data();
-        else
-            set->close();
-    };
-    if (when == 0)
-        connect(set.data(), &PYXCountingFileSet::si_maximumWeightReached, end);
-    else if (when == 1)
-        connect(PYXFileListImpl::getInstance(), &PYXIFileList::si_fileCountChanged, end);
-    else
-        connect(set.data(), &PYXCountingFileSet::si_writeError, end);
-    QCOMPARE(set->write("a"), qint64(when == 0 ? 1 : -1));
-    QCOMPARE(calls, 1);
-    QCOMPARE(set.isNull(), bDelete);
-    QVERIFY(bDelete || !set->isOpen());
-    delete set.data();
+            PYXFileListImpl::destroyInstance(); // and with it the connection
+        }
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_PYXCountingFileSet)

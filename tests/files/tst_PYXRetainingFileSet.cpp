@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PYXRuntime developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "FileSets.h"
+#include "DataRows.h"
+#include "FileContents.h"
 #include "PYXRetainingFileSet.h"
 
 #include <QtTest/QtTest>
@@ -8,13 +9,6 @@
 using namespace PYXRuntime;
 
 namespace {
-
-void put(const QString &path, int size)
-{
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(QByteArray(size, 'x')), qint64(size));
-}
 
 class RetainingSet : public PYXRetainingFileSet
 {
@@ -63,15 +57,15 @@ void tst_PYXRetainingFileSet::replacesNoFile()
 
 void tst_PYXRetainingFileSet::keepsTheNewest_data()
 {
-    QTest::addColumn<int>("files");
-    QTest::addColumn<quint64>("bytes");
-    QTest::addColumn<int>("kept");
-    QTest::addRow("all") << 0 << quint64(0) << 4;
-    QTest::addRow("three files") << 3 << quint64(0) << 2;
-    QTest::addRow("the current file only") << 1 << quint64(0) << 0;
-    QTest::addRow("exactly the bytes") << 0 << quint64(30) << 3;
-    QTest::addRow("a byte less") << 0 << quint64(29) << 2;
-    QTest::addRow("bytes before files") << 4 << quint64(15) << 1;
+    const Rows<int, quint64, int> rows = {
+        {"all", 0, 0U, 4},
+        {"three files", 3, 0U, 2},
+        {"the current file only", 1, 0U, 0},
+        {"exactly the bytes", 0, 30U, 3},
+        {"a byte less", 0, 29U, 2},
+        {"bytes before files", 4, 15U, 1},
+    };
+    addRows({"files", "bytes", "kept"}, rows);
 }
 
 void tst_PYXRetainingFileSet::keepsTheNewest()
@@ -86,9 +80,9 @@ void tst_PYXRetainingFileSet::keepsTheNewest()
     const QStringList strangers{"a_2018-01-01_00-00-00_UTC.b.txt.bak", "a_2018-01-01_00-00-00_UTC.txt",
                                 "a_b_2018-01-01_00-00-00_UTC.b.txt", "b_2018-01-01_00-00-00_UTC.b.txt"};
     for (int i = old.size() - 1; i >= 0; --i)
-        put(directory.filePath(old[i]), 10);
+        put(directory.filePath(old[i]), QByteArray(10, 'x'));
     for (const QString &name : strangers)
-        put(directory.filePath(name), 10);
+        put(directory.filePath(name), QByteArray(10, 'x'));
     RetainingSet set(directory.path());
     set.setMaximumNumberOfFiles(files);
     set.setMaximumSizeOfFiles(bytes);

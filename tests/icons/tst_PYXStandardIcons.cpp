@@ -228,7 +228,9 @@ void tst_PYXStandardIcons::whatWins()
     folder.draw("own_normal_off.png", Qt::red, 48);
     folder.draw("called_normal_off.png", Qt::green, 48);
     const uint id = Icons::ekIcon_Save;
-    const auto colour = [id] { return colourAt(Icons::staticRegisteredIcon(id), 48, {20, 20}); };
+    const auto colour = [] {
+        return colourAt(Icons::staticRegisteredIcon(Icons::ekIcon_Save), 48, {20, 20});
+    };
     const QIcon builtin = Icons::staticRegisteredIcon(id);
     QCOMPARE(Icons::staticRegisterIcon(id, folder.path("own")), QString());
     QCOMPARE(colour(), QColor(Qt::red));
@@ -322,6 +324,7 @@ void tst_PYXStandardIcons::eyeIsInterleaved()
         icons.registeredIconPixmap(Icons::ekIcon_Overlay_Eye_No, 24, QIcon::Normal, QIcon::Off).toImage();
     QCOMPARE(icons.registeredIconPixmap(id, 24, QIcon::Normal, QIcon::On).toImage(), eye);
     QCOMPARE(icons.registeredIconPixmap(id, 24, QIcon::Normal, QIcon::Off).toImage(), noEye);
+    QCOMPARE(icons.registeredIcon(id).cacheKey(), icons.registeredIcon(id).cacheKey());
     icons.setOverrideIcon(Icons::ekIcon_Overlay_Eye, plain(Qt::red));
     QCOMPARE(colourAt(icons.registeredIcon(id), 24, {0, 0}, QIcon::Active, QIcon::On), QColor(Qt::red));
     QCOMPARE(icons.builtinIconPixmap(id, 24, QIcon::Normal, QIcon::On).toImage(), eye);

@@ -71,8 +71,9 @@ quint64 work(PYXMemoryPool &pool, Exchange &exchange, unsigned seed)
     return got;
 }
 
-int reportProbe()
+int reportProbe(int argc, char **argv)
 {
+    const QCoreApplication application(argc, argv);
     PYXMemoryPool(nullptr).acquire(1, 0); // comes back: nothing to report
     auto pool = std::make_unique<PYXMemoryPool>(nullptr);
     Blocks blocks = acquireAll(*pool, {8, 5});
@@ -88,52 +89,39 @@ class tst_PYXMemoryPool : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void handsOutTheBestFit_data();
     void handsOutTheBestFit();
     void handsOutLastReturnedFirst();
-    void boundedPoolServesWhoWaits_data();
     void boundedPoolServesWhoWaits();
     void surplusStaysInTheBooks();
-    void boundingFreesSmallestFirst_data();
     void boundingFreesSmallestFirst();
     void purgesByAgeOfHandOut();
     void purgesByTimer();
     void preallocatesWithinTheBound();
     void reportsWhatIsOut();
-    void booksComeOutEven_data();
     void booksComeOutEven();
     void poolMayGoWhileBlocksComeBack();
 
 private:
+    void checkBooks(const QVector<unsigned> &bounds);
+
     const QSharedPointer<WatchedAllocator> m_allocator = QSharedPointer<WatchedAllocator>::create();
 };
 
-void tst_PYXMemoryPool::handsOutTheBestFit_data()
-{
-    QTest::addColumn<Sizes>("freeSizes");
-    QTest::addColumn<quint64>("request");
-    QTest::addColumn<quint64>("hit");
-    const Sizes both{150, 100};
-    const auto absurd = ~quint64(0);
-    QTest::newRow("smallest that fits") << both << quint64(80) << quint64(100);
-    QTest::newRow("exact size") << both << quint64(150) << quint64(150);
-    QTest::newRow("twice the size is too much") << both << quint64(50) << quint64(0);
-    QTest::newRow("less than twice the size") << both << quint64(51) << quint64(100);
-    QTest::newRow("none is large enough") << both << quint64(151) << quint64(0);
-    QTest::newRow("0 bytes") << Sizes{1, 0} << quint64(0) << quint64(0);
-    QTest::newRow("more than there is") << Sizes{absurd - 1} << absurd << quint64(0);
-}
-
 void tst_PYXMemoryPool::handsOutTheBestFit()
 {
-    QFETCH(Sizes, freeSizes);
-    QFETCH(quint64, request);
-    QFETCH(quint64, hit);
-    PYXMemoryPool pool(m_allocator);
-    acquireAll(pool, freeSizes).clear();
-    QCOMPARE(pool.acquire(request)->byteSize(), hit != 0 ? hit : request);
-    QCOMPARE(pool.statistics().hits, quint64(hit != 0 ? 1 : 0));
-    QCOMPARE(pool.statistics().misses, quint64(freeSizes.size() + (hit != 0 ? 0 : 1)));
+    const Sizes both{150, 100};
+    constexpr quint64 Absurd = ~quint64(0);
+    const std::tuple<Sizes, quint64, quint64> requests[] = {
+        // free sizes, request, hit
+        {both, 80, 100}, {both, 150, 150}, {both, 50, 0}, // twice the size is too much
+        {both, 51, 100}, {both, 151, 0},   {{1, 0}, 0, 0}, {{Absurd - 1}, Absurd, 0}};
+    for (const auto &[freeSizes, request, hit] : requests) {
+        PYXMemoryPool pool(m_allocator);
+        acquireAll(pool, freeSizes).clear();
+        QCOMPARE(pool.acquire(request)->byteSize(), hit != 0 ? hit : request);
+        QCOMPARE(pool.statistics().hits, quint64(hit != 0 ? 1 : 0));
+        QCOMPARE(pool.statistics().misses, quint64(freeSizes.size() + (hit != 0 ? 0 : 1)));
+    }
 }
 
 void tst_PYXMemoryPool::handsOutLastReturnedFirst()
@@ -152,31 +140,23 @@ void tst_PYXMemoryPool::handsOutLastReturnedFirst()
     }
 }
 
-void tst_PYXMemoryPool::boundedPoolServesWhoWaits_data()
-{
-    QTest::addColumn<quint64>("request");
-    QTest::addColumn<unsigned long>("timeout");
-    QTest::addColumn<bool>("isServed");
-    QTest::newRow("fits") << quint64(90) << ULONG_MAX << true;
-    QTest::newRow("is of the size, in time") << quint64(100) << 60'000UL << true;
-    QTest::newRow("does not fit") << quint64(101) << ULONG_MAX << false;
-    QTest::newRow("0 bytes") << quint64(0) << 60'000UL << false;
-}
-
 void tst_PYXMemoryPool::boundedPoolServesWhoWaits()
 {
-    QFETCH(quint64, request);
-    QFETCH(unsigned long, timeout);
-    PYXMemoryPool pool(m_allocator);
-    pool.setMaximumPoolSize(2);
-    Blocks blocks = acquireAll(pool, {100, 100});
-    QVERIFY(pool.acquire(100, 0) == nullptr && pool.acquire(100, 1) == nullptr);
-    auto waiter = std::async(std::launch::async, [&] { return pool.acquire(request, timeout); });
-    QTRY_COMPARE(pool.statistics().waits, quint64(2));
-    void *const data = blocks[0]->data();
-    blocks.removeFirst();
-    const BlockPointer served = waiter.get();
-    QTEST(served != nullptr && served->data() == data, "isServed");
+    const std::tuple<quint64, unsigned long, bool> requests[] = {
+        {90, ULONG_MAX, true}, {100, 60'000, true}, {101, ULONG_MAX, false}, {0, 60'000, false}};
+    for (const auto &request : requests) {
+        PYXMemoryPool pool(m_allocator);
+        pool.setMaximumPoolSize(2);
+        Blocks blocks = acquireAll(pool, {100, 100});
+        QVERIFY(pool.acquire(100, 0) == nullptr && pool.acquire(100, 1) == nullptr);
+        auto waiter = std::async(std::launch::async,
+                                 [&] { return pool.acquire(std::get<0>(request), std::get<1>(request)); });
+        QTRY_COMPARE(pool.statistics().waits, quint64(2));
+        void *const data = blocks[0]->data();
+        blocks.removeFirst();
+        const BlockPointer served = waiter.get();
+        QCOMPARE(served != nullptr && served->data() == data, std::get<2>(request));
+    }
 }
 
 void tst_PYXMemoryPool::surplusStaysInTheBooks()
@@ -195,38 +175,25 @@ void tst_PYXMemoryPool::surplusStaysInTheBooks()
     QCOMPARE(pool.statistics().acquiredBlocks, 5U);
 }
 
-void tst_PYXMemoryPool::boundingFreesSmallestFirst_data()
-{
-    QTest::addColumn<unsigned int>("previous");
-    QTest::addColumn<Sizes>("acquired");
-    QTest::addColumn<unsigned int>("bound");
-    QTest::addColumn<Sizes>("left"); // of free blocks of 10, 20, 30 and 40 bytes
-    const Sizes all{10, 20, 30, 40};
-    QTest::newRow("from none") << 0U << Sizes() << 2U << all;
-    QTest::newRow("raised") << 9U << Sizes() << 10U << all;
-    QTest::newRow("the same") << 9U << Sizes{1} << 9U << all;
-    QTest::newRow("lowered") << 9U << Sizes() << 2U << Sizes{30, 40};
-    QTest::newRow("lowered, some handed out") << 9U << Sizes{1, 1} << 3U << Sizes{40};
-    QTest::newRow("below what is handed out") << 9U << Sizes{1, 1} << 1U << Sizes();
-    QTest::newRow("to the size it has: never met") << 9U << Sizes() << 4U << Sizes();
-    QTest::newRow("to more than it has: never met") << 9U << Sizes() << 6U << Sizes();
-}
-
 void tst_PYXMemoryPool::boundingFreesSmallestFirst()
 {
-    QFETCH(unsigned int, previous);
-    QFETCH(Sizes, acquired);
-    QFETCH(unsigned int, bound);
-    QFETCH(Sizes, left);
-    PYXMemoryPool pool(m_allocator);
-    pool.setMaximumPoolSize(previous);
-    acquireAll(pool, {40, 10, 30, 20}).clear();
-    const Blocks held = acquireAll(pool, acquired);
-    pool.setMaximumPoolSize(bound);
-    QCOMPARE(pool.maximumPoolSize(), bound);
-    QCOMPARE(pool.statistics().freeBlocks, unsigned(left.size()));
-    const Blocks kept = acquireAll(pool, left);
-    QCOMPARE(pool.statistics().hits, quint64(left.size()));
+    const Sizes all{10, 20, 30, 40};
+    // Previous bound, what is acquired, new bound, what is left of free blocks.
+    const std::tuple<unsigned, Sizes, unsigned, Sizes> bounds[] = {
+        {0, {}, 2, all},      {9, {}, 10, all},   {9, {1}, 9, all}, {9, {}, 2, {30, 40}},
+        {9, {1, 1}, 3, {40}}, {9, {1, 1}, 1, {}}, {9, {}, 4, {}}, // to the size it has: never met
+        {9, {}, 6, {}}};                                          // to more than it has: never met
+    for (const auto &[previous, acquired, bound, left] : bounds) {
+        PYXMemoryPool pool(m_allocator);
+        pool.setMaximumPoolSize(previous);
+        acquireAll(pool, {40, 10, 30, 20}).clear();
+        const Blocks held = acquireAll(pool, acquired);
+        pool.setMaximumPoolSize(bound);
+        QCOMPARE(pool.maximumPoolSize(), bound);
+        QCOMPARE(pool.statistics().freeBlocks, unsigned(left.size()));
+        const Blocks kept = acquireAll(pool, left);
+        QCOMPARE(pool.statistics().hits, quint64(left.size()));
+    }
 }
 
 void tst_PYXMemoryPool::purgesByAgeOfHandOut()
@@ -288,17 +255,15 @@ void tst_PYXMemoryPool::reportsWhatIsOut()
     QVERIFY2(expected.match(result.errors).hasMatch(), qPrintable(result.errors));
 }
 
-void tst_PYXMemoryPool::booksComeOutEven_data()
-{
-    QTest::addColumn<QVector<unsigned int>>("bounds");
-    QTest::newRow("unbounded") << QVector<unsigned int>{0};
-    QTest::newRow("bounded") << QVector<unsigned int>{24};
-    QTest::newRow("bounded meanwhile") << QVector<unsigned int>{0, 40, 20};
-}
-
 void tst_PYXMemoryPool::booksComeOutEven()
 {
-    QFETCH(QVector<unsigned int>, bounds);
+    // Unbounded, bounded, bounded meanwhile.
+    for (const QVector<unsigned> &bounds : {QVector<unsigned>{0}, {24}, {0, 40, 20}})
+        checkBooks(bounds);
+}
+
+void tst_PYXMemoryPool::checkBooks(const QVector<unsigned> &bounds)
+{
     PYXMemoryPool pool(m_allocator);
     pool.setMaximumPoolSize(bounds[0]);
     std::vector<std::future<quint64>> workers;
@@ -357,12 +322,5 @@ void tst_PYXMemoryPool::poolMayGoWhileBlocksComeBack()
     }
 }
 
-int main(int argc, char **argv)
-{
-    QCoreApplication application(argc, argv);
-    if (argc == 3 && qstrcmp(argv[1], "--probe") == 0)
-        return reportProbe();
-    tst_PYXMemoryPool test;
-    return QTest::qExec(&test, argc, argv);
-}
+PYX_TEST_MAIN_WITH_PROBE(tst_PYXMemoryPool, reportProbe)
 #include "tst_PYXMemoryPool.moc"

@@ -3,12 +3,12 @@
 
 // Looks through the memory of another process for a password that it has wiped.
 
+#include "ChildProcess.h"
 #include "PYXProxyManager.h"
 #include "PYXSettings.h"
 #include "PYXStringHelpers.h"
 #include "SettingsHome.h"
 
-#include <QtCore/QProcess>
 #include <QtTest/QtTest>
 
 #include <cstdio>
@@ -60,8 +60,9 @@ void say(const char *state)
 }
 
 /** Puts a proxy with a password in force. In the end only the factory has it still. */
-int handlePassword()
+int handlePassword(int argc, char **argv)
 {
+    const QCoreApplication application(argc, argv);
     const SettingsHome home;
     {
         QString plain = password();
@@ -93,7 +94,7 @@ void tst_SecretMemory::wipedTextsAreGone()
 {
     QProcess probe;
     probe.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    probe.start(QCoreApplication::applicationFilePath(), {"--probe"});
+    probe.start(QCoreApplication::applicationFilePath(), {"--probe", "password"});
     QByteArray said;
     const auto memoryWhenItSpeaks = [&] {
         while (!probe.canReadLine() && probe.waitForReadyRead())
@@ -118,13 +119,5 @@ void tst_SecretMemory::wipedTextsAreGone()
     QCOMPARE(probe.exitCode(), 0);
 }
 
-int main(int argc, char **argv)
-{
-    QCoreApplication application(argc, argv);
-    if (QCoreApplication::arguments().contains("--probe"))
-        return handlePassword();
-    tst_SecretMemory test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+PYX_TEST_MAIN_WITH_PROBE(tst_SecretMemory, handlePassword)
 #include "tst_SecretMemory.moc"

@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PYXRuntime developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "BlockDevices_unix.h"
+#include "FileContents.h"
 
 #include <QtTest/QtTest>
 
@@ -12,15 +13,13 @@ class tst_BlockDevices : public QObject
     Q_OBJECT
 private slots:
     void initTestCase();
-    void removableDevices_data();
     void removableDevices();
 
 private:
     void addFile(const QString &path, const QByteArray &content)
     {
         QVERIFY(QDir().mkpath(QFileInfo(m_sys.filePath(path)).path()));
-        QFile file(m_sys.filePath(path));
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+        put(m_sys.filePath(path), content);
     }
     void addLink(const QString &target, const QString &path)
     {
@@ -45,24 +44,13 @@ void tst_BlockDevices::initTestCase()
     addLink("devices/dm-1", "devices/dm-1/slaves/dm-1"); // what must not happen must not hang
 }
 
-void tst_BlockDevices::removableDevices_data()
-{
-    QTest::addColumn<QString>("device");
-    QTest::addColumn<bool>("removable");
-    QTest::newRow("fixed disk") << "sda" << false;
-    QTest::newRow("its partition") << "sda1" << false;
-    QTest::newRow("stick") << "sdb" << true;
-    QTest::newRow("its partition ") << "sdb1" << true;
-    QTest::newRow("encrypted on the stick") << "dm-0" << true;
-    QTest::newRow("made of itself") << "dm-1" << false;
-    QTest::newRow("unknown") << "sdz1" << false;
-    QTest::newRow("none") << "" << false;
-}
-
 void tst_BlockDevices::removableDevices()
 {
-    QFETCH(QString, device);
-    QTEST(isRemovableBlockDevice(device, m_sys.path()), "removable");
+    const std::pair<const char *, bool> devices[] = {{"sda", false},  {"sda1", false}, {"sdb", true},
+                                                     {"sdb1", true},  {"dm-0", true},  {"dm-1", false},
+                                                     {"sdz1", false}, {"", false}};
+    for (const auto &[device, bRemovable] : devices)
+        QVERIFY2(isRemovableBlockDevice(device, m_sys.path()) == bRemovable, device);
 }
 
 QTEST_GUILESS_MAIN(tst_BlockDevices)

@@ -3,36 +3,16 @@
 
 // What a full disk does to settings, on a small file system of the test's own.
 
+#include "FileContents.h"
 #include "PYXXmlSettings.h"
-#include "WarningRecorder.h"
+#include "SmallDisk.h"
 
 #include <QtTest/QtTest>
-
-#include <sys/mount.h>
-#include <unistd.h>
 
 using namespace PYXRuntime;
 
 namespace {
-
 constexpr int PageSize = 4096;
-
-QByteArray get(const QString &path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-/** Takes what is free but some bytes. */
-void fillDisk(const QString &directory, qint64 left)
-{
-    QFile filler(directory + "/filler");
-    QVERIFY(filler.open(QIODevice::WriteOnly | QIODevice::Unbuffered));
-    while (filler.write(QByteArray(PageSize, 'x')) == PageSize) {
-    }
-    QVERIFY(filler.resize(qMax<qint64>(0, filler.size() - left)));
-}
-
 } // namespace
 
 class tst_FullDisk : public QObject
@@ -40,36 +20,17 @@ class tst_FullDisk : public QObject
     Q_OBJECT
 private Q_SLOTS:
     void initTestCase();
-    void cleanup();
-    void cleanupTestCase();
     void keepsTheOldFileAndTells_data();
     void keepsTheOldFileAndTells();
 
 private:
-    QTemporaryDir m_mountPoint;
-    bool m_bMounted = false;
+    const SmallDisk m_disk;
 };
 
 void tst_FullDisk::initTestCase()
 {
-    if (geteuid() != 0)
-        QSKIP("only root may mount the small file system");
-    const QByteArray path = QFile::encodeName(m_mountPoint.path());
-    if (mount("tmpfs", path.constData(), "tmpfs", 0, "size=2m") != 0)
-        QSKIP("the small file system cannot be mounted here");
-    m_bMounted = true;
-}
-
-void tst_FullDisk::cleanup()
-{
-    QFile::remove(m_mountPoint.filePath("filler"));
-    QFile::remove(m_mountPoint.filePath("store"));
-}
-
-void tst_FullDisk::cleanupTestCase()
-{
-    if (m_bMounted)
-        QCOMPARE(umount(QFile::encodeName(m_mountPoint.path()).constData()), 0);
+    if (!m_disk.isMounted())
+        QSKIP("the small file system cannot be mounted; root may, on most systems");
 }
 
 void tst_FullDisk::keepsTheOldFileAndTells_data()
@@ -88,7 +49,8 @@ void tst_FullDisk::keepsTheOldFileAndTells()
 {
     QFETCH(int, keys);
     QFETCH(int, left);
-    const QString path = m_mountPoint.filePath("store");
+    m_disk.clear();
+    const QString path = m_disk.path("store");
     {
         QSettings settings(path, PYXXmlSettings::format());
         for (int i = 0; i < keys; ++i)
@@ -96,7 +58,7 @@ void tst_FullDisk::keepsTheOldFileAndTells()
     }
     const QByteArray before = get(path);
     QVERIFY(before.size() > keys * 50);
-    fillDisk(m_mountPoint.path(), left);
+    m_disk.fill(left);
 
     QSettings settings(path, PYXXmlSettings::format());
     settings.setValue("Group1/Key1", "changed");
@@ -105,11 +67,11 @@ void tst_FullDisk::keepsTheOldFileAndTells()
     QCOMPARE(get(path), before);
 
     // Nothing is lost either: with room again the change is saved.
-    QVERIFY(QFile::remove(m_mountPoint.filePath("filler")));
+    m_disk.makeRoom();
     settings.sync();
     QCOMPARE(QSettings(path, PYXXmlSettings::format()).value("Group1/Key1").toString(), QString("changed"));
     QVERIFY(get(path).contains("changed"));
-    QCOMPARE(QDir(m_mountPoint.path()).entryList(QDir::Files), QStringList("store"));
+    QCOMPARE(m_disk.files(), QStringList("store"));
 }
 
 QTEST_GUILESS_MAIN(tst_FullDisk)

@@ -10,9 +10,14 @@
 using PYXRuntime::PYXExternalConfig;
 
 namespace {
-constexpr char ChildVariable[] = "PYX_TEST_CHILD";
-const QString wrongThread = "PYXRuntime::PYXExternalConfig::destroyInstance: MUST be called in the same "
-                            "thread that called the first getInstance";
+
+int destroyElsewhere(int, char **)
+{
+    std::thread([] { PYXExternalConfig::getInstance(); }).join();
+    PYXExternalConfig::destroyInstance();
+    return PYXExternalConfig::hasInstance() == nullptr ? 0 : 1;
+}
+
 } // namespace
 
 class tst_PYXExternalConfig : public QObject
@@ -51,20 +56,12 @@ void tst_PYXExternalConfig::keepsValuesUntilItIsDestroyed()
 
 void tst_PYXExternalConfig::destroyingElsewhereWorksWithAMessage()
 {
-    if (qEnvironmentVariableIsSet(ChildVariable)) {
-        std::thread([] { PYXExternalConfig::getInstance(); }).join();
-        PYXExternalConfig::destroyInstance();
-        QCOMPARE(PYXExternalConfig::hasInstance(), nullptr);
-        return;
-    }
-    qputenv(ChildVariable, "1");
-    const ChildResult child =
-        runChild(QCoreApplication::applicationFilePath(), {"destroyingElsewhereWorksWithAMessage"});
-    qunsetenv(ChildVariable);
-    QVERIFY(child.bFinished);
+    const ChildResult child = runOwnProbe("destroy elsewhere");
     QCOMPARE(child.exitCode, 0);
-    QCOMPARE(child.errors.count(wrongThread), 1);
+    const QString message = "PYXRuntime::PYXExternalConfig::destroyInstance: MUST be called in the same "
+                            "thread that called the first getInstance";
+    QCOMPARE(child.errors.count(message), 1);
 }
 
-QTEST_GUILESS_MAIN(tst_PYXExternalConfig)
+PYX_TEST_MAIN_WITH_PROBE(tst_PYXExternalConfig, destroyElsewhere)
 #include "tst_PYXExternalConfig.moc"

@@ -5,7 +5,6 @@
 #include "PYXBrokerRegistration.h"
 #include "PYXIFileDialogPlaces.h"
 #include "PYXStatusHash.h"
-#include "PYXTraceWrapper.h"
 #include "RecordingTracer.h"
 #include "SettingsHome.h"
 
@@ -13,7 +12,6 @@
 #include <QtTest/QtTest>
 
 using PYXRuntime::PYXSettings;
-using PYXRuntime::PYXTraceWrapper;
 
 namespace {
 
@@ -54,8 +52,7 @@ class tst_PYXSettings : public QObject
 {
     Q_OBJECT
 private slots:
-    void init();
-    void cleanup();
+    void init() { m_home.reset(new SettingsHome); }
     void constructorsOpenTheirStores();
     void queriesReadTheProperty();
     void fallbacksCanBeLeftOut();
@@ -66,33 +63,8 @@ private slots:
     void unchangedPathsAreToldToo();
 
 private:
-    QStringList takeTraces();
-
     QScopedPointer<SettingsHome> m_home;
-    RecordingTracer m_tracer;
 };
-
-void tst_PYXSettings::init()
-{
-    m_home.reset(new SettingsHome);
-    PYXTraceWrapper::addTracer(&m_tracer);
-}
-
-void tst_PYXSettings::cleanup()
-{
-    PYXTraceWrapper::removeTracer(&m_tracer);
-    m_tracer.calls.clear();
-}
-
-/** Without their lines. */
-QStringList tst_PYXSettings::takeTraces()
-{
-    QStringList traces;
-    for (const QString &call : qAsConst(m_tracer.calls))
-        traces += call.left(call.lastIndexOf('|'));
-    m_tracer.calls.clear();
-    return traces;
-}
 
 void tst_PYXSettings::constructorsOpenTheirStores()
 {
@@ -125,18 +97,14 @@ void tst_PYXSettings::constructorsOpenTheirStores()
 
 void tst_PYXSettings::queriesReadTheProperty()
 {
-    const struct
-    {
-        QVariant property;
-        int purpose;
-        const char *flags;
-    } rows[] = {{QVariant(), 0, "-----"}, {1, 1, "u--at"}, {2, 2, "us--t"},   {3, 3, "--dat"},
-                {4, 4, "-sd-t"},          {5, 5, "----t"}, {true, 1, "u--at"}};
-    for (const auto &row : rows) {
+    const std::tuple<QVariant, int, const char *> rows[] = {
+        {QVariant(), 0, "-----"}, {1, 1, "u--at"}, {2, 2, "us--t"},   {3, 3, "--dat"},
+        {4, 4, "-sd-t"},          {5, 5, "----t"}, {true, 1, "u--at"}};
+    for (const auto &[property, purpose, flags] : rows) {
         QSettings plain(m_home->path("plain.ini"), QSettings::IniFormat);
-        plain.setProperty("pyx__purpose__", row.property);
-        QCOMPARE(PYXSettings::purpose(&plain), row.purpose);
-        QCOMPARE(flagsOf(&plain), QString(row.flags));
+        plain.setProperty("pyx__purpose__", property);
+        QCOMPARE(PYXSettings::purpose(&plain), purpose);
+        QCOMPARE(flagsOf(&plain), QString(flags));
     }
     QCOMPARE(PYXSettings::purpose(nullptr), 0);
     QCOMPARE(flagsOf(nullptr), QString("-----"));
@@ -308,23 +276,24 @@ void tst_PYXSettings::changedPathsAreToldAndHandled()
         shared.setValue("Paths/Collections", "/c");
         shared.setValue("Paths/Other", "/o");
     }
-    m_tracer.calls.clear();
     QStringList user("old"), shared("old");
-    QVERIFY(PYXSettings::diffUserAndSharedSubTreesForPaths_handleShared("Mine", "Mine old", user, shared));
+    const QStringList traces = withoutLines(tracesOf([&] {
+        QVERIFY(
+            PYXSettings::diffUserAndSharedSubTreesForPaths_handleShared("Mine", "Mine old", user, shared));
+    }));
     QCOMPARE(user, QStringList("Mine/Logs"));
     QCOMPARE(shared,
              QStringList({"Paths/Collections", "Paths/DetectorProfiles", "Paths/Other", "Paths/Scripts"}));
     QCOMPARE(places.calls, QStringList({"27 /c", "28 /d", "26 /s %1 %2"}));
     const QString tag = "|source\\PYXSettings";
-    QCOMPARE(
-        takeTraces(),
-        QStringList({"Debug|1 user paths entries changed" + tag, "Debug|4 shared paths entries changed" + tag,
-                     "Debug|shared path [Paths/Collections] changed: /c" + tag,
-                     "Debug|shared path [Paths/DetectorProfiles] changed: /d" + tag,
-                     "Debug|shared path [Paths/Other] changed: /o" + tag,
-                     "Debug|MainWindow::sl_onSettingsApplied: unhandeled shared path" + tag,
-                     "Debug|shared path [Paths/Scripts] changed: /s %1 %2" + tag,
-                     "Debug|4 shared paths entries changed" + tag}));
+    QCOMPARE(traces, QStringList({"Debug|1 user paths entries changed" + tag,
+                                  "Debug|4 shared paths entries changed" + tag,
+                                  "Debug|shared path [Paths/Collections] changed: /c" + tag,
+                                  "Debug|shared path [Paths/DetectorProfiles] changed: /d" + tag,
+                                  "Debug|shared path [Paths/Other] changed: /o" + tag,
+                                  "Debug|MainWindow::sl_onSettingsApplied: unhandeled shared path" + tag,
+                                  "Debug|shared path [Paths/Scripts] changed: /s %1 %2" + tag,
+                                  "Debug|4 shared paths entries changed" + tag}));
 }
 
 void tst_PYXSettings::unchangedPathsAreToldToo()
@@ -332,9 +301,12 @@ void tst_PYXSettings::unchangedPathsAreToldToo()
     PYXSettings(PYXSettings::eDefaultSharedSettings).setValue("Paths/Scripts", "/machine");
     PYXSettings::cloneUserAndSharedSubTreesForPaths("Mine", "Mine old");
     QStringList user("old"), shared("old");
-    QVERIFY(!PYXSettings::diffUserAndSharedSubTreesForPaths_handleShared("Mine", "Mine old", user, shared));
+    const QStringList traces = tracesOf([&] {
+        QVERIFY(
+            !PYXSettings::diffUserAndSharedSubTreesForPaths_handleShared("Mine", "Mine old", user, shared));
+    });
     QVERIFY(user.isEmpty() && shared.isEmpty());
-    QCOMPARE(takeTraces(), QStringList("Debug|no paths entries changed|source\\PYXSettings"));
+    QCOMPARE(withoutLines(traces), QStringList("Debug|no paths entries changed|source\\PYXSettings"));
     // Without anybody who remembers places, and against the machine's default.
     PYXSettings(PYXSettings::eUserSharedSettings).setValue("Paths/Scripts", "/user");
     QCOMPARE(PYXSettings::diffAndHandleSharedSubTreesForPaths(), QStringList("Paths/Scripts"));

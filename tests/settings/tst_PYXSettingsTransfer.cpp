@@ -95,21 +95,20 @@ void tst_PYXSettingsTransfer::secretsStayBehind()
         {"Plain/Url", "http://me@host:80/a:b@c"}, {"Plain/Xml", "<S><Title>no password</Title></S>"},
         {"Plain/Bytes", QByteArray(64, '\1')},    {"Plain/Map", QVariantMap{{"Name", 1}}}};
     PYXSettings source(PYXSettings::eUserApplicationSettings);
-    QStringList leftOut;
-    for (const auto &[key, value] : secrets) {
-        source.setValue(key, value);
-        leftOut += key;
-    }
-    QStringList kept;
-    for (const auto &[key, value] : harmless) {
-        source.setValue(key, value);
-        kept += key;
-    }
+    const auto stored = [&source](const QList<QPair<QString, QVariant>> &entries) {
+        QStringList keys;
+        for (const auto &[key, value] : entries) {
+            source.setValue(key, value);
+            keys += key;
+        }
+        keys.sort();
+        return keys;
+    };
+    const QStringList leftOut = stored(secrets);
+    const QStringList kept = stored(harmless);
     const QString file = m_home->path("export.PYXXml");
     const auto exported = PYXSettingsTransfer::exportTo(file, source);
     QVERIFY(exported.bOk);
-    leftOut.sort();
-    kept.sort();
     QCOMPARE(exported.leftOut, leftOut);
     QCOMPARE(PYXSettings(file).allKeys(), kept);
     source.beginGroup("::Receiver::"); // keys are whole for what is registered

@@ -25,10 +25,8 @@ private:
     static constexpr uid_t Nobody = 65534;
 };
 
-constexpr auto EverybodyReads = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadOther |
-                                QFile::ExeOther | QFile::ReadGroup | QFile::ExeGroup;
-constexpr auto NobodyWrites = QFile::ReadOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther |
-                              QFile::ReadGroup | QFile::ExeGroup;
+constexpr auto NobodyWrites = QFile::Permissions(0x5555); // reading and entering for all
+constexpr auto EverybodyReads = NobodyWrites | QFile::WriteOwner;
 
 } // namespace
 
@@ -37,20 +35,20 @@ class tst_ReadOnlyStore : public QObject
 {
     Q_OBJECT
 private slots:
+    void statusAndTraceTellAndTheOldFileStays_data();
     void statusAndTraceTellAndTheOldFileStays();
-
-private:
-    static void tryStore(bool bOld);
 };
+
+void tst_ReadOnlyStore::statusAndTraceTellAndTheOldFileStays_data()
+{
+    QTest::addColumn<bool>("bOld");
+    QTest::newRow("without a file") << false;
+    QTest::newRow("with a file") << true;
+}
 
 void tst_ReadOnlyStore::statusAndTraceTellAndTheOldFileStays()
 {
-    for (const bool bOld : {false, true})
-        tryStore(bOld);
-}
-
-void tst_ReadOnlyStore::tryStore(bool bOld)
-{
+    QFETCH(bool, bOld);
     const SettingsHome home;
     const QString directory = home.path("readonly");
     const QString file = directory + "/store.PYXXml";

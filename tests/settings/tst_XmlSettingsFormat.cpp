@@ -82,26 +82,24 @@ class tst_XmlSettingsFormat : public QObject
 {
     Q_OBJECT
 private Q_SLOTS:
-    void writesExactly_data();
     void writesExactly();
     void warnsOfBrokenTrees();
-    void readsWhatIsThere_data();
     void readsWhatIsThere();
     void bringsRandomMapsBack();
     void bringsDeepKeysBack();
     void survivesDamage();
-    void refusesDepthAndEntities_data();
     void refusesDepthAndEntities();
     void readsOneHugeValue();
 };
 
-void tst_XmlSettingsFormat::writesExactly_data()
+void tst_XmlSettingsFormat::writesExactly()
 {
-    QTest::addColumn<QVariantMap>("map");
-    QTest::addColumn<QByteArray>("lines");
-    QTest::newRow("empty") << Map() << QByteArray();
-    QTest::newRow("value at a group's own key")
-        << Map{{"a", 1}, {"a/b", 2}} << QByteArray(R"(    <group name = "a">
+    const auto check = [](const Map &map, const QByteArray &lines) {
+        QCOMPARE(written(map), Head + lines + Tail);
+    };
+    check({}, "");
+    // Value at a group's own key.
+    check({{"a", 1}, {"a/b", 2}}, R"(    <group name = "a">
         <value>1</value>
         <entry>
             <name>b</name>
@@ -109,9 +107,11 @@ void tst_XmlSettingsFormat::writesExactly_data()
         </entry>
     </group>
 )");
-    QTest::newRow("array with items, ten before two")
-        << Map{{"list/size", 2}, {"list/2/x", "b"}, {"list/10", "c"}, {"list/10/x", "a"}}
-        << QByteArray(R"(    <array name = "list" size = "2">
+    // Size alone makes an array; ten comes before two.
+    check({{"bare/size", -3}, {"list/size", 2}, {"list/2/x", "b"}, {"list/10", "c"}, {"list/10/x", "a"}},
+          R"(    <array name = "bare" size = "-3">
+    </array>
+    <array name = "list" size = "2">
         <item index = "10">
             <value>c</value>
             <entry>
@@ -127,70 +127,29 @@ void tst_XmlSettingsFormat::writesExactly_data()
         </item>
     </array>
 )");
-    QTest::newRow("size alone makes an array, beside words and as a text none")
-        << Map{{"bare/size", -3}, {"text/size", "2"}, {"words/size", 1}, {"words/x", 2}}
-        << QByteArray(R"(    <array name = "bare" size = "-3">
-    </array>
-    <group name = "text">
-        <entry>
-            <name>size</name>
-            <value>2</value>
-        </entry>
-    </group>
-    <group name = "words">
-        <entry>
-            <name>size</name>
-            <value>1</value>
-        </entry>
-        <entry>
-            <name>x</name>
-            <value>2</value>
-        </entry>
-    </group>
-)");
-    QTest::newRow("children of arrays that are no items")
-        << Map{{"l/size", 1}, {"l/1", 5}, {"l/07/x", 1}, {"l/3/size", 0}, {"l/n/x", 1}}
-        << QByteArray(R"(    <array name = "l" size = "1">
-        <group name = "07">
-            <entry>
-                <name>x</name>
-                <value>1</value>
-            </entry>
-        </group>
-        <entry>
-            <name>1</name>
-            <value>5</value>
-        </entry>
-        <array name = "3" size = "0">
-        </array>
-        <group name = "n">
-            <entry>
-                <name>x</name>
-                <value>1</value>
-            </entry>
-        </group>
-    </array>
-)");
-    QTest::newRow("escaped names, an empty name, an invalid value")
-        << Map{{"a?\"/b?<", ""}, {"x/", QVariant()}} << QByteArray(R"(    <group name = "a~#x3F;~#x22;">
-        <entry>
-            <name>b?~#x3C;</name>
-            <value></value>
-        </entry>
-    </group>
-    <group name = "x">
-        <entry>
-            <name>unnamed</name>
-        </entry>
-    </group>
-)");
-}
-
-void tst_XmlSettingsFormat::writesExactly()
-{
-    QFETCH(QVariantMap, map);
-    QFETCH(QByteArray, lines);
-    QCOMPARE(written(map), Head + lines + Tail);
+    // The same layout, written here without it.
+    const auto checkFlat = [](const Map &map, const QByteArray &elements) {
+        QCOMPARE(written(map).simplified(), (Head + elements + Tail).simplified());
+    };
+    // As a text, and beside words, it makes none.
+    checkFlat({{"text/size", "2"}, {"words/size", 1}, {"words/x", 2}}, R"(
+        <group name = "text"> <entry> <name>size</name> <value>2</value> </entry> </group>
+        <group name = "words"> <entry> <name>size</name> <value>1</value> </entry>
+            <entry> <name>x</name> <value>2</value> </entry> </group>
+    )");
+    // Children of arrays that are no items.
+    checkFlat({{"l/size", 1}, {"l/1", 5}, {"l/07/x", 1}, {"l/3/size", 0}, {"l/n/x", 1}}, R"(
+        <array name = "l" size = "1">
+            <group name = "07"> <entry> <name>x</name> <value>1</value> </entry> </group>
+            <entry> <name>1</name> <value>5</value> </entry>
+            <array name = "3" size = "0"> </array>
+            <group name = "n"> <entry> <name>x</name> <value>1</value> </entry> </group> </array>
+    )");
+    // Escaped names, an empty name, an invalid value.
+    checkFlat({{"a?\"/b?<", ""}, {"x/", QVariant()}}, R"(
+        <group name = "a~#x3F;~#x22;"> <entry> <name>b?~#x3C;</name> <value></value> </entry> </group>
+        <group name = "x"> <entry> <name>unnamed</name> </entry> </group>
+    )");
 }
 
 void tst_XmlSettingsFormat::warnsOfBrokenTrees()
@@ -212,18 +171,24 @@ void tst_XmlSettingsFormat::warnsOfBrokenTrees()
     QVERIFY(!XmlSettingsWriter::write(closed, {{"a", 1}}));
 }
 
-void tst_XmlSettingsFormat::readsWhatIsThere_data()
+void tst_XmlSettingsFormat::readsWhatIsThere()
 {
-    QTest::addColumn<QByteArray>("file");
-    QTest::addColumn<bool>("good");
-    QTest::addColumn<QStringList>("warnings");
-    QTest::addColumn<QVariantMap>("map");
-    const auto good = [](const char *name, const QByteArray &file, const Map &map,
-                         const QStringList &warnings = {}) {
-        QTest::newRow(name) << file << true << warnings << map;
+    const auto check = [](const char *name, const QByteArray &file, const QStringList &warnings, bool bGood,
+                          const Map &map) {
+        WarningRecorder recorder;
+        Map found;
+        QVERIFY2(read(file, found) == bGood, name);
+        QCOMPARE(recorder.texts(), warnings);
+        QCOMPARE(found.keys(), map.keys());
+        for (auto it = map.cbegin(); it != map.cend(); ++it) {
+            QCOMPARE(found.value(it.key()), it.value());
+            QCOMPARE(found.value(it.key()).userType(), it.value().userType());
+        }
     };
-    const auto bad = [](const char *name, const QByteArray &file, const QString &warning) {
-        QTest::newRow(name) << file << false << QStringList(warning) << Map();
+    const auto good = [&](const char *name, const QByteArray &file, const Map &map,
+                          const QStringList &warnings = {}) { check(name, file, warnings, true, map); };
+    const auto bad = [&](const char *name, const QByteArray &file, const QString &warning) {
+        check(name, file, {warning}, false, {});
     };
     const QString prefix("PYXXmlSettingsPrivate::readXmlFile: ");
     const QString noXml = prefix + "error setting content";
@@ -276,22 +241,6 @@ void tst_XmlSettingsFormat::readsWhatIsThere_data()
     bad("nothing", "", noXml);
     bad("error behind other faults", xml("<entry/><stray/>") + "<again/>", noXml);
     bad("no UTF-8", xml(entry("a", "\xFF\xFE")), noXml);
-}
-
-void tst_XmlSettingsFormat::readsWhatIsThere()
-{
-    QFETCH(QByteArray, file);
-    QFETCH(QVariantMap, map);
-    QFETCH(QStringList, warnings);
-    WarningRecorder recorder;
-    Map found;
-    QTEST(read(file, found), "good");
-    QCOMPARE(recorder.texts(), warnings);
-    QCOMPARE(found.keys(), map.keys());
-    for (auto it = map.cbegin(); it != map.cend(); ++it) {
-        QCOMPARE(found.value(it.key()), it.value());
-        QCOMPARE(found.value(it.key()).userType(), it.value().userType());
-    }
 }
 
 /** A value is not written as another one is: what reads back as something else would be written otherwise. */
@@ -348,38 +297,34 @@ void tst_XmlSettingsFormat::survivesDamage()
     }
 }
 
-void tst_XmlSettingsFormat::refusesDepthAndEntities_data()
+void tst_XmlSettingsFormat::refusesDepthAndEntities()
 {
-    QTest::addColumn<QByteArray>("file");
-    const QByteArray open("<group name=\"g\">");
-    const QByteArray writersOpen("<group name = \"g\">\n");
-    QTest::newRow("too deep by one") << xml(open.repeated(512) + QByteArray("</group>").repeated(512));
-    QTest::newRow("100 000 levels") << xml(open.repeated(100'000) + QByteArray("</group>").repeated(100'000));
-    QTest::newRow("100 000 levels as written")
-        << Head + writersOpen.repeated(100'000) + QByteArray("</group>\n").repeated(100'000) + Tail;
-    QTest::newRow("100 000 levels of strangers") << xml(QByteArray("<x>").repeated(100'000));
+    const auto deep = [](int levels, const QByteArray &open, const QByteArray &close) {
+        return open.repeated(levels) + close.repeated(levels);
+    };
     QByteArray bomb("<!DOCTYPE r [<!ENTITY e0 \"0123456789\">");
     for (int i = 1; i < 30; ++i)
         bomb +=
             QString("<!ENTITY e%1 \"%2\">").arg(i).arg(QString("&e%1;").arg(i - 1).repeated(10)).toLatin1();
-    QTest::newRow("entities that multiply") << bomb + "]>" + xml(entry("a", "&e29;"));
     const QByteArray parameter = "<!DOCTYPE r [<!ENTITY % p \"<!-- " + QByteArray(4000, 'c') + " -->\">";
-    QTest::newRow("parameter entities") << parameter + QByteArray("%p;").repeated(10'000) + "]>" + xml("");
-    QTest::newRow("default attributes")
-        << QByteArray("<!DOCTYPE r [<!ATTLIST x y CDATA '1'>]>") + xml("<x/>");
-}
-
-void tst_XmlSettingsFormat::refusesDepthAndEntities()
-{
-    QFETCH(QByteArray, file);
-    WarningRecorder recorder;
-    Map map;
-    QElapsedTimer timer;
-    timer.start();
-    QVERIFY(!read(file, map));
-    // Some milliseconds; the bound leaves room for sanitizers and busy machines.
-    QVERIFY2(timer.elapsed() < 1000, qPrintable(QString::number(timer.elapsed())));
-    QCOMPARE(recorder.texts(), QStringList("PYXXmlSettingsPrivate::readXmlFile: error setting content"));
+    const std::pair<const char *, QByteArray> files[] = {
+        {"too deep by one", xml(deep(512, "<group name=\"g\">", "</group>"))},
+        {"100 000 levels", xml(deep(100'000, "<group name=\"g\">", "</group>"))},
+        {"100 000 levels as written", Head + deep(100'000, "<group name = \"g\">\n", "</group>\n") + Tail},
+        {"100 000 levels of strangers", xml(deep(100'000, "<x>", ""))},
+        {"entities that multiply", bomb + "]>" + xml(entry("a", "&e29;"))},
+        {"parameter entities", parameter + QByteArray("%p;").repeated(10'000) + "]>" + xml("")},
+        {"default attributes", "<!DOCTYPE r [<!ATTLIST x y CDATA '1'>]>" + xml("<x/>")}};
+    for (const auto &[name, file] : files) {
+        WarningRecorder recorder;
+        Map map;
+        QElapsedTimer timer;
+        timer.start();
+        QVERIFY2(!read(file, map), name);
+        // Some milliseconds; the bound leaves room for sanitizers and busy machines.
+        QVERIFY2(timer.elapsed() < 1000, qPrintable(name + QString::number(timer.elapsed())));
+        QCOMPARE(recorder.texts(), QStringList("PYXXmlSettingsPrivate::readXmlFile: error setting content"));
+    }
 }
 
 void tst_XmlSettingsFormat::readsOneHugeValue()

@@ -16,9 +16,7 @@ class tst_XmlValueCodec : public QObject
 private Q_SLOTS:
     void escapes();
     void unescapes();
-    void encodesAndDecodes_data();
     void encodesAndDecodes();
-    void decodesTextsOfOthers_data();
     void decodesTextsOfOthers();
     void keepsWhatReadableFormsCannotHold();
     void refusesValuesWithoutAForm();
@@ -69,130 +67,104 @@ void tst_XmlValueCodec::unescapes()
         QCOMPARE(XmlTextCodec::unescaped(text), expected);
 }
 
-void tst_XmlValueCodec::encodesAndDecodes_data()
-{
-    QTest::addColumn<QVariant>("value");
-    QTest::addColumn<QByteArray>("text");
-    QTest::addColumn<QVariant>("back");
-    const auto same = [](const char *name, const QVariant &value, const QByteArray &text) {
-        QTest::newRow(name) << value << text << value;
-    };
-    const auto asText = [](const char *name, const QVariant &value, const QByteArray &text) {
-        QTest::newRow(name) << value << text << QVariant(QString::fromLatin1(text));
-    };
-    asText("bool", true, "true");
-    asText("int", -7, "-7");
-    asText("uint", 4000000000U, "4000000000");
-    asText("qlonglong", Q_INT64_C(-9000000000), "-9000000000");
-    asText("qulonglong", Q_UINT64_C(18000000000000000000), "18000000000000000000");
-    asText("double", 0.1, "0.1");
-    QTest::newRow("key sequence") << QVariant(QKeySequence("Ctrl+O")) << QByteArray("Ctrl+O")
-                                  << QVariant("Ctrl+O");
-    same("text", "a<b", "a~#x3C;b");
-    same("empty text", "", "");
-    same("text of blanks", "   ", "   ");
-    same("text with a comma", "a,b", "a~#x2C;b");
-    same("text beginning with @", "@home", "@@home");
-    same("text like a form", "@Point(1 2)", "@@Point(1 2)");
-    same("surrogates, whole and torn", QString::fromUtf8("\xF0\x9F\x98\x80") + QChar(0xD800),
-         "~#xD83D;~#xDE00;~#xD800;");
-    same("bytes", QByteArray("\0)\xFF", 3), "@ByteArray(~#x00;)~#xFF;)");
-    same("date", QDate(2020, 2, 29), "@ISODate(2020-02-29)");
-    same("no date", QDate(), "@ISODate()");
-    same("time", QTime(1, 2, 3, 4), "@Time(01:02:03.004)");
-    same("no time", QTime(), "@Time()");
-    same("local date-time", QDateTime(QDate(2020, 1, 2), QTime(3, 4, 5, 6)),
-         "@ISODateTime(2020-01-02 03:04:05.006 0)");
-    same("UTC", QDateTime(QDate(2020, 1, 2), QTime(3, 4), Qt::UTC),
-         "@ISODateTime(2020-01-02 03:04:00.000 1)");
-    same("no date-time", QDateTime(), "@ISODateTime(  0)");
-    same("date-time with an offset", QDateTime(QDate(2020, 1, 2), QTime(3, 4), Qt::OffsetFromUTC, -3600),
-         "@ISODateTime(2020-01-02 03:04:00.000 2 -3600)");
-    same("date-time in a zone", QDateTime(QDate(2020, 7, 2), QTime(3, 4), QTimeZone("Europe/Berlin")),
-         "@ISODateTime(2020-07-02 03:04:00.000 3 Europe/Berlin)");
-    same("locale", QLocale("de_AT"), "@Locale(de_AT)");
-    same("rectangle", QRect(1, -2, 3, 4), "@Rect(1 -2 3 4)");
-    same("size", QSize(-1, 2), "@Size(-1 2)");
-    same("point", QPoint(1, 2), "@Point(1 2)");
-    same("rectangle of reals", QRectF(0.5, 1, 2, 3),
-         "@RectF(0.5000000000000000 1.0000000000000000 2.0000000000000000 3.0000000000000000)");
-    same("size of reals", QSizeF(0.25, 1e20),
-         "@SizeF(0.2500000000000000 100000000000000000000.0000000000000000)");
-    same("point of reals", QPointF(-0.5, 0), "@PointF(-0.5000000000000000 0.0000000000000000)");
-    same("colour", QColor(1, 2, 3, 4), "@Color(1 2 3 4)");
-    same("texts", QStringList{"a", "b,c", "@d"}, "a , b~#x2C;c , @@d");
-    same("texts with blanks around", QStringList{" a ", "", "  "}, " a  ,  ,   ");
-    same("empty texts", QStringList{"", "", ""}, " ,  , ");
-    QTest::newRow("one text") << QVariant(QStringList{"@a"}) << QByteArray("@@a") << QVariant("@a");
-    same("no texts", QStringList(), "@EmptyStringList()");
-    QTest::newRow("no values") << QVariant(QVariantList()) << QByteArray("@EmptyStringList()")
-                               << QVariant(QStringList());
-    QTest::newRow("plain values") << QVariant(QVariantList{1, "b", 2.5}) << QByteArray("1 , b , 2.5")
-                                  << QVariant(QStringList{"1", "b", "2.5"});
-    same("values", QVariantList{"a", QPoint(1, 2), QVariant()}, "a , @Point(1 2) , @Invalid()");
-}
-
 void tst_XmlValueCodec::encodesAndDecodes()
 {
-    QFETCH(QVariant, value);
-    QFETCH(QByteArray, text);
-    QByteArray encoded;
-    QVERIFY(XmlValueCodec::appendEncoded(encoded, value));
-    QCOMPARE(encoded, text);
-    // Compared with their types: QVariant takes a number and its text for equal.
-    QFETCH(QVariant, back);
-    const QVariant decoded = XmlValueCodec::decoded(QString::fromLatin1(text));
-    QCOMPARE(decoded.userType(), back.userType());
-    QCOMPARE(decoded, back);
-}
-
-void tst_XmlValueCodec::decodesTextsOfOthers_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QVariant>("expected");
-    const auto plain = [](const char *text) {
-        QTest::newRow(text) << QString(text) << QVariant(QString(text));
+    const auto check = [](const QVariant &value, const QByteArray &text, const QVariant &back) {
+        QByteArray encoded;
+        QVERIFY(XmlValueCodec::appendEncoded(encoded, value));
+        QCOMPARE(encoded, text);
+        // Compared with their types: QVariant takes a number and its text for equal.
+        const QVariant decoded = XmlValueCodec::decoded(QString::fromLatin1(text));
+        QCOMPARE(decoded.userType(), back.userType());
+        QCOMPARE(decoded, back);
     };
-    plain("@Point(1)");
-    plain("@Point(1 2 3)");
-    plain("@Point(1 99999999999)");
-    plain("@Point(a b)");
-    plain("@Point(1 2");
-    plain("@Nothing(1)");
-    plain("@");
-    plain("@)");
-    plain("@Rect(2147483647 0 2 1)");
-    plain("@Color(1 2 3 256)");
-    plain("@ISODate(2021-02-29)");
-    plain("@Time(25:00:00.000)");
-    plain("@ISODateTime(2020-01-02 03:04:05.006 4)");
-    plain("@ISODateTime(2020-01-02 03:04:05.006 2 x)");
-    plain("@ISODateTime(2020-01-02 03:04:05.006 3 Nowhere/Else)");
-    plain("@Locale(no such place)");
-    plain("@Invalid(x)");
-    plain("@EmptyStringList(x)");
-    plain("@Variant()");
-    plain("@Variant(abc)");
-    const auto row = [](const char *text, const QVariant &value) {
-        QTest::newRow(text) << QString(text) << value;
+    const auto same = [&](const QVariant &value, const QByteArray &text) { check(value, text, value); };
+    const auto asText = [&](const QVariant &value, const QByteArray &text) {
+        check(value, text, QString::fromLatin1(text));
     };
-    row("a,b", QStringList{"a", "b"});
-    row("a ,b ,  c", QStringList{"a", "b", "c"});
-    row("a,", QStringList{"a", ""});
-    row("\n  a ,\n  b\n", QStringList{"a", "b"});
-    row("1,@Size(1 2)", QVariantList{"1", QSize(1, 2)});
-    row("@Invalid()", QVariant());
-    row("~#64;Point(1 2)", QPoint(1, 2));
-    row("@ISODateTime(2020-01-02 03:04:05.006 2)", QDateTime(QDate(2020, 1, 2), QTime(3, 4, 5, 6)));
+    asText(true, "true");
+    asText(-7, "-7");
+    asText(4000000000U, "4000000000");
+    asText(Q_INT64_C(-9000000000), "-9000000000");
+    asText(Q_UINT64_C(18000000000000000000), "18000000000000000000");
+    asText(0.1, "0.1");
+    check(QKeySequence("Ctrl+O"), "Ctrl+O", "Ctrl+O");
+    same("a<b", "a~#x3C;b");
+    same("", "");
+    same("   ", "   ");
+    same("a,b", "a~#x2C;b");
+    same("@home", "@@home");
+    same("@Point(1 2)", "@@Point(1 2)");
+    same(QString::fromUtf8("\xF0\x9F\x98\x80") + QChar(0xD800), "~#xD83D;~#xDE00;~#xD800;");
+    same(QByteArray("\0)\xFF", 3), "@ByteArray(~#x00;)~#xFF;)");
+    same(QDate(2020, 2, 29), "@ISODate(2020-02-29)");
+    same(QDate(), "@ISODate()");
+    same(QTime(1, 2, 3, 4), "@Time(01:02:03.004)");
+    same(QTime(), "@Time()");
+    same(QDateTime(QDate(2020, 1, 2), QTime(3, 4, 5, 6)), "@ISODateTime(2020-01-02 03:04:05.006 0)");
+    same(QDateTime(QDate(2020, 1, 2), QTime(3, 4), Qt::UTC), "@ISODateTime(2020-01-02 03:04:00.000 1)");
+    same(QDateTime(), "@ISODateTime(  0)");
+    same(QDateTime(QDate(2020, 1, 2), QTime(3, 4), Qt::OffsetFromUTC, -3600),
+         "@ISODateTime(2020-01-02 03:04:00.000 2 -3600)");
+    same(QDateTime(QDate(2020, 7, 2), QTime(3, 4), QTimeZone("Europe/Berlin")),
+         "@ISODateTime(2020-07-02 03:04:00.000 3 Europe/Berlin)");
+    same(QLocale("de_AT"), "@Locale(de_AT)");
+    same(QRect(1, -2, 3, 4), "@Rect(1 -2 3 4)");
+    same(QSize(-1, 2), "@Size(-1 2)");
+    same(QPoint(1, 2), "@Point(1 2)");
+    same(QRectF(0.5, 1, 2, 3),
+         "@RectF(0.5000000000000000 1.0000000000000000 2.0000000000000000 3.0000000000000000)");
+    same(QSizeF(0.25, 1e20), "@SizeF(0.2500000000000000 100000000000000000000.0000000000000000)");
+    same(QPointF(-0.5, 0), "@PointF(-0.5000000000000000 0.0000000000000000)");
+    same(QColor(1, 2, 3, 4), "@Color(1 2 3 4)");
+    same(QStringList{"a", "b,c", "@d"}, "a , b~#x2C;c , @@d");
+    same(QStringList{" a ", "", "  "}, " a  ,  ,   ");
+    same(QStringList{"", "", ""}, " ,  , ");
+    check(QStringList{"@a"}, "@@a", "@a");
+    same(QStringList(), "@EmptyStringList()");
+    check(QVariantList(), "@EmptyStringList()", QStringList());
+    check(QVariantList{1, "b", 2.5}, "1 , b , 2.5", QStringList{"1", "b", "2.5"});
+    same(QVariantList{"a", QPoint(1, 2), QVariant()}, "a , @Point(1 2) , @Invalid()");
 }
 
 void tst_XmlValueCodec::decodesTextsOfOthers()
 {
-    QFETCH(QString, text);
-    QFETCH(QVariant, expected);
-    const QVariant value = XmlValueCodec::decoded(text);
-    QCOMPARE(value.userType(), expected.userType());
-    QCOMPARE(value, expected);
+    QList<QPair<QString, QVariant>> rows = {
+        {"a,b", QStringList{"a", "b"}},
+        {"a ,b ,  c", QStringList{"a", "b", "c"}},
+        {"a,", QStringList{"a", ""}},
+        {"\n  a ,\n  b\n", QStringList{"a", "b"}},
+        {"1,@Size(1 2)", QVariantList{"1", QSize(1, 2)}},
+        {"@Invalid()", QVariant()},
+        {"~#64;Point(1 2)", QPoint(1, 2)},
+        {"@ISODateTime(2020-01-02 03:04:05.006 2)", QDateTime(QDate(2020, 1, 2), QTime(3, 4, 5, 6))}};
+    // No forms, though they look like some.
+    for (const char *text : {"@Point(1)",
+                             "@Point(1 2 3)",
+                             "@Point(1 99999999999)",
+                             "@Point(a b)",
+                             "@Point(1 2",
+                             "@Nothing(1)",
+                             "@",
+                             "@)",
+                             "@Rect(2147483647 0 2 1)",
+                             "@Color(1 2 3 256)",
+                             "@ISODate(2021-02-29)",
+                             "@Time(25:00:00.000)",
+                             "@ISODateTime(2020-01-02 03:04:05.006 4)",
+                             "@ISODateTime(2020-01-02 03:04:05.006 2 x)",
+                             "@ISODateTime(2020-01-02 03:04:05.006 3 Nowhere/Else)",
+                             "@Locale(no such place)",
+                             "@Invalid(x)",
+                             "@EmptyStringList(x)",
+                             "@Variant()",
+                             "@Variant(abc)"})
+        rows.append({text, QString(text)});
+    for (const auto &[text, expected] : qAsConst(rows)) {
+        const QVariant value = XmlValueCodec::decoded(text);
+        QVERIFY2(value.userType() == expected.userType(), qPrintable(text));
+        QCOMPARE(value, expected);
+    }
 }
 
 void tst_XmlValueCodec::keepsWhatReadableFormsCannotHold()

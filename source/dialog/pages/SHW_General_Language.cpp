@@ -37,7 +37,7 @@ const QString &systemStyle()
 void changeStyle(const QString &stored)
 {
     const QString wanted = stored.isEmpty() ? systemStyle() : stored;
-    if (wanted.compare(QApplication::style()->objectName(), Qt::CaseInsensitive) != 0)
+    if (!wanted.isEmpty() && wanted.compare(QApplication::style()->objectName(), Qt::CaseInsensitive) != 0)
         QApplication::setStyle(wanted);
 }
 

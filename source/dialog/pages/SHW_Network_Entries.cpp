@@ -48,8 +48,8 @@ SHW_Network_Entries::SHW_Network_Entries(const PYXNetworkEntryList &keys, QWidge
     m_table->setTabKeyNavigation(false);
     m_table->verticalHeader()->hide();
     m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    for (const int column : {NetworkEntriesModel::ekColumn_Name, NetworkEntriesModel::ekColumn_Address})
-        m_table->horizontalHeader()->setSectionResizeMode(column, QHeaderView::Stretch);
+    m_table->horizontalHeader()->setSectionResizeMode(NetworkEntriesModel::ekColumn_Name,
+                                                      QHeaderView::Stretch);
     m_result->setWordWrap(true);
     auto *const layout = new QGridLayout(this);
     layout->addWidget(m_table, 0, 0, 5, 1);
