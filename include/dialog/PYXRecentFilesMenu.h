@@ -29,6 +29,7 @@ public:
         ekMissingFiles_Disable, ///< it may come back, as one on a removable drive
         ekMissingFiles_Remove   ///< from the list too, when the menu is opened
     };
+    Q_ENUM(eMissingFiles)
 
     explicit PYXRecentFilesMenu(const QString &key, QWidget *parent = nullptr);
     ~PYXRecentFilesMenu() override;

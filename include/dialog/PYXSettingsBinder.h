@@ -44,6 +44,7 @@ class PYXRUNTIME_EXPORT PYXSettingsBinder final : public QObject
 public:
     /** What of a combo box is kept. */
     enum eComboValue { ekCombo_Data, ekCombo_Text, ekCombo_Index };
+    Q_ENUM(eComboValue)
 
     explicit PYXSettingsBinder(QObject *parent = nullptr);
     ~PYXSettingsBinder() override;

@@ -46,7 +46,7 @@ QByteArray contentOf(const QString &path)
     QFile file(path);
     if (path.isEmpty() || !file.open(QIODevice::ReadOnly) || file.size() > MaximumFileSize)
         return {};
-    return file.read(MaximumFileSize);
+    return file.read(file.size()); // not more: it is allocated before it is read
 }
 
 } // namespace

@@ -7,9 +7,11 @@
 #include "PYXApplicationInfoImpl.h"
 #include "PYXIAppInternals.h"
 #include "PYXIFileList.h"
+#include "PYXRecentFilesMenu.h"
 #include "PYXRetainingFileSet.h"
 #include "PYXRuntime.h"
 #include "PYXSettings.h"
+#include "PYXSettingsBinder.h"
 #include "PYXSettingsTransfer.h"
 #include "PYXSingleInstance.h"
 #include "PYXStandardIconIds.h"
@@ -52,8 +54,9 @@ void registerEnumerations()
 
 void fillEnumTables()
 {
-    registerEnumerations<PYXStrings::eText, PYXIFileList::eFileType, PYXRetainingFileSet::eWeight,
-                         PYXSettings::ePurpose, PYXSettings::eThisRunOnlySettings,
+    registerEnumerations<PYXStrings::eText, PYXIFileList::eFileType, PYXRecentFilesMenu::eMissingFiles,
+                         PYXRetainingFileSet::eWeight, PYXSettings::ePurpose,
+                         PYXSettings::eThisRunOnlySettings, PYXSettingsBinder::eComboValue,
                          PYXSettingsTransfer::eSecrets, PYXSingleInstance::eResult,
                          PYXStandardIconIds::eStandardIcon, PYXStyleHints::eColor, PYXStyleHints::eIconSize,
                          PYXTracerBase::eForm, PYXTracerBase::eLevel, PYXWinResVersion::eVersionType>();
