@@ -92,6 +92,26 @@ void fillStore(QSettings &store)
     }
 }
 
+/** Processes events until the window has been painted. */
+class FirstPicture final : public QObject
+{
+public:
+    explicit FirstPicture(QWidget &window) { window.installEventFilter(this); }
+    void wait() const
+    {
+        while (!m_bPainted)
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        m_bPainted = m_bPainted || event->type() == QEvent::Paint;
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    bool m_bPainted = false;
+};
+
 struct PyxDialog
 {
     PyxDialog()
@@ -106,8 +126,9 @@ struct PyxDialog
     template <typename Function>
     void run(Function function)
     {
+        const FirstPicture picture(dialog);
         QTimer::singleShot(0, &dialog, [&] {
-            dialog.repaint();
+            picture.wait();
             function();
             dialog.done(0);
         });
@@ -150,8 +171,9 @@ struct PlainDialog
     {
         for (const struFields &page : qAsConst(fields))
             fill(page);
+        const FirstPicture picture(dialog);
         QTimer::singleShot(0, &dialog, [&] {
-            dialog.repaint();
+            picture.wait();
             function();
             dialog.done(0);
         });

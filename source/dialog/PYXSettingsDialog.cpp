@@ -61,6 +61,13 @@ void showTitle(QTreeWidgetItem &item, const QString &title)
     item.setToolTip(0, title);
 }
 
+// Setting what is there already would write the whole file again.
+void storeIfNew(PYXSettings &settings, const QString &key, const QByteArray &value)
+{
+    if (settings.byteArrayValue(key) != value)
+        settings.setValue(key, value);
+}
+
 QObject *helpConnector()
 {
     return PYXBroker::getInstance()->topObject(InterfaceIdentifiers::helpConnector(), 0);
@@ -341,8 +348,8 @@ void PYXSettingsDialog::_restoreWindow()
 
 void PYXSettingsDialog::_storeWindow(PYXSettings &settings) const
 {
-    settings.setValue(GeometryKey, saveGeometry());
-    settings.setValue(SplitterKey, m_form->splitter->saveState());
+    storeIfNew(settings, GeometryKey, saveGeometry());
+    storeIfNew(settings, SplitterKey, m_form->splitter->saveState());
 }
 
 PYXSettingsHandlerWidget *PYXSettingsDialog::activePage() const

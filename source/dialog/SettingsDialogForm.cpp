@@ -67,8 +67,6 @@ SettingsDialogForm::SettingsDialogForm(QDialog &dialog)
     retranslate();
 }
 
-SettingsDialogForm::~SettingsDialogForm() = default;
-
 QWidget *SettingsDialogForm::_makeTreeSide()
 {
     auto *const side = new QWidget;

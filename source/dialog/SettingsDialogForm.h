@@ -26,7 +26,6 @@ class SettingsDialogForm final
     Q_DISABLE_COPY(SettingsDialogForm)
 public:
     explicit SettingsDialogForm(QDialog &dialog);
-    ~SettingsDialogForm();
 
     void retranslate();
 
