@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "DeveloperDocks.h"
 
+#include "CompactTable.h"
 #include "MainActions.h"
 #include "PoolDock.h"
 #include "Scale.h"
@@ -11,11 +12,55 @@
 #include <SHW_Debug_RuntimeScopes.h>
 
 #include <QtWidgets/QAction>
+#include <QtWidgets/QCheckBox>
+#include <QtWidgets/QDockWidget>
 #include <QtWidgets/QMainWindow>
+#include <QtWidgets/QTableView>
+#include <QtWidgets/QVBoxLayout>
 
 using PYXRuntime::PYXStandardIcons;
 
 namespace BandMonitor {
+namespace {
+
+constexpr int UsualWidth = 64; // in characters
+// Its darker shade is the frame of check boxes, which has to be seen on dark ground as well.
+constexpr QRgb FrameColour = qRgb(0x90, 0x90, 0x90);
+
+/** As wide as is good for a page, which itself would do with less. */
+class PageHolder final : public QWidget
+{
+public:
+    explicit PageHolder(QWidget *page)
+    {
+        auto *const layout = new QVBoxLayout(this);
+        layout->setContentsMargins(0, 0, 0, 0);
+        layout->addWidget(page);
+    }
+
+    QSize sizeHint() const override
+    {
+        return {UsualWidth * fontMetrics().averageCharWidth(), QWidget::sizeHint().height()};
+    }
+};
+
+void adapt(PYXRuntime::PYXSettingsHandlerWidget *page)
+{
+    const QFont font = page->font();
+    page->setFont(smallerFont(font));
+    QPalette palette;
+    palette.setColor(QPalette::Window, QColor(FrameColour));
+    const auto boxes = page->findChildren<QCheckBox *>();
+    for (QCheckBox *const box : boxes)
+        box->setPalette(palette);
+    const auto tables = page->findChildren<QTableView *>();
+    for (QTableView *const table : tables) {
+        makeCompact(table, font);
+        table->setPalette(palette);
+    }
+}
+
+} // namespace
 
 DeveloperDocks::DeveloperDocks(QMainWindow *window, MainActions *actions)
     : QObject(window)
@@ -39,8 +84,8 @@ QDockWidget *DeveloperDocks::_pageDock(const QString &name, const QString &title
 {
     auto *const dock = new QDockWidget(title, m_window);
     dock->setObjectName(name);
-    page->setFont(smallerFont(page->font()));
-    dock->setWidget(page);
+    adapt(page);
+    dock->setWidget(new PageHolder(page));
     // What the page shows may have been changed elsewhere meanwhile.
     connect(dock, &QDockWidget::visibilityChanged, page, [page](bool bVisible) {
         if (bVisible)
