@@ -70,13 +70,13 @@ DeveloperDocks::DeveloperDocks(QMainWindow *window, MainActions *actions)
     , m_brokerDock(_pageDock(QStringLiteral("brokerDock"), tr("Broker"), new PYXRuntime::SHW_Debug_Broker))
     , m_poolDock(new PoolDock(window))
 {
+    setShown(false); // before they are part of the window, which would keep room for them
     window->addDockWidget(Qt::RightDockWidgetArea, m_scopeDock);
     window->tabifyDockWidget(m_scopeDock, m_brokerDock);
     window->addDockWidget(Qt::RightDockWidgetArea, m_poolDock);
     actions->addDock(m_scopeDock, PYXStandardIcons::ekIcon_GenericTool);
     actions->addDock(m_brokerDock, PYXStandardIcons::ekIcon_Link);
     actions->addDock(m_poolDock, PYXStandardIcons::ekIcon_Storage_Local);
-    setShown(false);
 }
 
 QDockWidget *DeveloperDocks::_pageDock(const QString &name, const QString &title,

@@ -14,10 +14,8 @@
 namespace BandMonitor {
 namespace {
 
-// Signals that begin together are not found in the same spectrum, and fragments of one soon become one.
-constexpr int CollectingTime = 1000; // in ms
-constexpr int ShowingTime = 2000;    // in ms
-constexpr int MostFrequencies = 4;   // that are named
+constexpr int ShowingTime = 2000;  // in ms
+constexpr int MostFrequencies = 4; // that are named
 
 } // namespace
 
@@ -27,6 +25,12 @@ SignalPopups::SignalPopups(QWidget *window)
 {
     m_timer.setSingleShot(true);
     connect(&m_timer, &QTimer::timeout, this, &SignalPopups::_announce);
+}
+
+void SignalPopups::setIntervals(int collecting, int shortest)
+{
+    m_collecting = collecting;
+    m_shortest = shortest;
 }
 
 void SignalPopups::setEnabled(bool bEnabled)
@@ -56,8 +60,9 @@ void SignalPopups::setDetections(const std::vector<struDetection> &detections)
     m_news = std::move(news); // without those that have turned out to be part of another
     if (m_news.empty() || m_timer.isActive())
         return;
-    const qint64 remaining = m_sinceLast.isValid() ? ShortestInterval - m_sinceLast.elapsed() : 0;
-    m_timer.start(int(std::max<qint64>(CollectingTime, remaining)));
+    // Signals that begin together are not found in the same spectrum, and fragments of one soon become one.
+    const qint64 remaining = m_sinceLast.isValid() ? m_shortest - m_sinceLast.elapsed() : 0;
+    m_timer.start(int(std::max<qint64>(m_collecting, remaining)));
 }
 
 void SignalPopups::_announce()

@@ -21,10 +21,13 @@ class SignalPopups final : public QObject
 {
     Q_OBJECT
 public:
-    /** From one pop-up to the next, at least. */
-    static constexpr int ShortestInterval = 6000; // in ms
-
     explicit SignalPopups(QWidget *window);
+
+    /**
+     * @param collecting how long signals are collected for a pop-up, in ms
+     * @param shortest from one pop-up to the next at least, in ms
+     */
+    void setIntervals(int collecting, int shortest);
 
     /** Signals that come while it is disabled, as at first, are no news later. */
     void setEnabled(bool bEnabled);
@@ -39,6 +42,8 @@ private:
     void _announce();
 
     QWidget *m_window;
+    int m_collecting = 1000;
+    int m_shortest = 6000;
     bool m_bEnabled = false;
     std::set<int> m_known;
     std::map<int, double> m_news; ///< frequencies by signal
