@@ -12,20 +12,25 @@
 
 namespace BandMonitor {
 
-QTableView *createCompactTable(QAbstractItemModel *model, const QFont &font)
+void makeCompact(QTableView *table, const QFont &font)
 {
-    auto *const table = new QTableView;
     table->setFont(smallerFont(font));
-    table->setModel(model);
-    table->setSelectionBehavior(QAbstractItemView::SelectRows);
-    table->setSelectionMode(QAbstractItemView::SingleSelection);
     table->setShowGrid(false);
     table->setFrameShape(QFrame::NoFrame);
-    table->setTabKeyNavigation(false);
     table->verticalHeader()->hide();
     table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 6);
     table->horizontalHeader()->setFont(table->font());
     table->horizontalHeader()->setHighlightSections(false);
+}
+
+QTableView *createCompactTable(QAbstractItemModel *model, const QFont &font)
+{
+    auto *const table = new QTableView;
+    makeCompact(table, font);
+    table->setModel(model);
+    table->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table->setSelectionMode(QAbstractItemView::SingleSelection);
+    table->setTabKeyNavigation(false);
     table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     return table;
 }

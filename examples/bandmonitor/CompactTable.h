@@ -14,6 +14,8 @@ namespace BandMonitor {
 
 /** A table for a dock: rows are selected one at a time, columns share the width. */
 QTableView *createCompactTable(QAbstractItemModel *model, const QFont &font);
+/** Low rows in a small font, without lines and frames. */
+void makeCompact(QTableView *table, const QFont &font);
 /** The table with its buttons in a row below. */
 QWidget *withButtons(QTableView *table, const QList<QPushButton *> &buttons);
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "DetectionDock.h"
 
+#include "CompactTable.h"
 #include "DetectionModel.h"
-#include "Scale.h"
 
 #include <QtCore/QSortFilterProxyModel>
 #include <QtWidgets/QHeaderView>
@@ -30,22 +30,16 @@ DetectionDock::DetectionDock(QWidget *parent)
 void DetectionDock::_createTable()
 {
     m_table->setObjectName(QStringLiteral("detectionTable"));
-    m_table->setFont(smallerFont(font()));
+    makeCompact(m_table, font());
     m_table->setModel(m_sortedModel);
     m_table->setSortingEnabled(true);
     m_table->sortByColumn(DetectionModel::ekColumn_Frequency, Qt::AscendingOrder);
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
     m_table->setSelectionMode(QAbstractItemView::SingleSelection);
     m_table->setAlternatingRowColors(true);
-    m_table->setShowGrid(false);
-    m_table->setFrameShape(QFrame::NoFrame);
     m_table->setIconSize({8, 8});
-    m_table->verticalHeader()->hide();
-    m_table->verticalHeader()->setDefaultSectionSize(m_table->fontMetrics().height() + 6);
 
     QHeaderView *const header = m_table->horizontalHeader();
-    header->setFont(m_table->font());
-    header->setHighlightSections(false);
     header->setSectionResizeMode(QHeaderView::Stretch);
     header->setSectionResizeMode(DetectionModel::ekColumn_Frequency, QHeaderView::Fixed);
     header->resizeSection(DetectionModel::ekColumn_Frequency,

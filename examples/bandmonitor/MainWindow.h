@@ -2,30 +2,30 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include "ColourMap.h"
 #include "DetectorParameters.h"
 #include "Playback.h"
 #include "SampleSource.h"
-#include "Spectrum.h"
 
 #include <QtWidgets/QMainWindow>
 
 #include <memory>
 
-class QComboBox;
-class QLabel;
+namespace PYXRuntime {
+class PYXAppInternalsImpl;
+} // namespace PYXRuntime
 
 namespace BandMonitor {
 
 class DetectionDock;
 class DetectionRecorder;
-class FrequencyAxis;
-class PoolDock;
+class DeveloperDocks;
+class MainActions;
+class PlotArea;
 class RecentRecordings;
 class SignalMonitor;
-class SpectrumView;
+class SignalPopups;
+class StateBar;
 class StationDock;
-class WaterfallView;
 
 /** The window: plays a recording or the program's own band and shows what is in it. */
 class MainWindow final : public QMainWindow
@@ -48,6 +48,10 @@ public:
     /** Processes the whole recording, or some seconds of the own band, without a pause. */
     void playToEnd();
     void setDark(bool bDark);
+    /** Tells in the title which modes are on, shows in debug mode what is for developers, and has the chords
+     * that switch modes. */
+    void followModes(PYXRuntime::PYXAppInternalsImpl *internals);
+    void bringToFront();
 
     const SignalMonitor *monitor() const { return m_monitor.get(); }
 
@@ -55,19 +59,18 @@ protected:
     void showEvent(QShowEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 
+private Q_SLOTS:
+    void _sl_appModesChanged();
+
 private:
-    void _createViews();
     void _createDocks();
     void _createActions();
-    void _createFileMenu(const QList<QAction *> &sourceActions);
-    void _createViewMenu();
-    void _createHelpMenu();
-    void _createStatusBar();
     void _setSource(std::unique_ptr<SampleSource> source);
     void _restart();
-    void _showSpectrum(const struSpectrum &spectrum);
     void _showDetections();
     void _showState();
+    void _showTitle();
+    bool _mayClose();
     void _sl_openAction_triggered();
     void _sl_openUrlAction_triggered();
     void _sl_saveAction_triggered();
@@ -80,21 +83,14 @@ private:
     bool m_bArranged = false; ///< whether the docks have got their first sizes
     bool m_bKeepSettings = false;
     struDetectorParameters m_detectorParameters;
-    struLevelRange m_levelRange;
 
-    FrequencyAxis *m_axis = nullptr;
-    SpectrumView *m_spectrumView = nullptr;
-    WaterfallView *m_waterfallView = nullptr;
+    PlotArea *m_plots;
+    StateBar *m_stateBar;
+    SignalPopups *m_popups;
+    MainActions *m_actions = nullptr;
     DetectionDock *m_detectionDock = nullptr;
     StationDock *m_stationDock = nullptr;
-    PoolDock *m_poolDock = nullptr;
-    QAction *m_playAction = nullptr;
-    QAction *m_recordAction = nullptr;
-    QAction *m_darkAction = nullptr;
-    QComboBox *m_speedBox = nullptr;
-    QLabel *m_sourceLabel = nullptr;
-    QLabel *m_noiseLabel = nullptr;
-    QLabel *m_timeLabel = nullptr;
+    DeveloperDocks *m_developerDocks = nullptr;
 };
 
 } // namespace BandMonitor

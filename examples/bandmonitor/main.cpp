@@ -1,18 +1,23 @@
 // SPDX-FileCopyrightText: 2026 The PYXRuntime developers
 // SPDX-License-Identifier: BSD-3-Clause
 #include "BandGenerator.h"
+#include "CommandLine.h"
+#include "Complaint.h"
 #include "HeadlessRun.h"
 #include "MainWindow.h"
+#include "SecondStart.h"
 #include "WavReader.h"
 
+#include <PYXAppInternalsSimple.h>
 #include <PYXApplicationInfoImpl.h>
 #include <PYXBroker.h>
 #include <PYXFileTracer.h>
 #include <PYXRuntime.h>
 #include <PYXRuntimeCenter.h>
+#include <PYXSingleInstance.h>
+#include <PYXStandardIcons.h>
 #include <PYXTraceWrapper.h>
 
-#include <QtCore/QCommandLineParser>
 #include <QtCore/QLocale>
 #include <QtWidgets/QApplication>
 
@@ -21,14 +26,11 @@
 #include <cstring>
 
 using namespace BandMonitor;
+using PYXRuntime::PYXSingleInstance;
 
 namespace {
 
-const QLatin1String HeadlessOption("headless");
-const QLatin1String ScreenshotOption("screenshot");
-const QLatin1String SizeOption("size");
-const QLatin1String DarkOption("dark");
-const QLatin1String PortableOption("portable");
+const char TraceSource[] = "bandmonitor\\main";
 
 QString tr(const char *text)
 {
@@ -46,23 +48,6 @@ bool isHeadless(int argc, char **argv)
     return std::any_of(argv + 1, argv + argc, [](const char *argument) {
         return std::strcmp(argument, "--headless") == 0 || std::strcmp(argument, "-headless") == 0;
     });
-}
-
-void setUp(QCommandLineParser &parser)
-{
-    parser.setApplicationDescription(tr("Shows the signals in a recording, or in a band of its own."));
-    parser.addHelpOption();
-    parser.addVersionOption();
-    parser.addPositionalArgument(QStringLiteral("recording"),
-                                 tr("WAV file: one channel of real samples, or two of I/Q."),
-                                 QStringLiteral("[RECORDING]"));
-    parser.addOption({HeadlessOption, tr("Print the detected signals instead of showing a window.")});
-    parser.addOption(
-        {ScreenshotOption, tr("Process everything, save a picture of the window, and end."), tr("FILE")});
-    parser.addOption({SizeOption, tr("Size of the window."), tr("WIDTHxHEIGHT")});
-    parser.addOption({DarkOption, tr("Use dark colours.")});
-    parser.addOption(
-        {PortableOption, tr("Keep settings beside the program, not in the user's directories.")});
 }
 
 /** Decides where the settings are: before the first of them are read. */
@@ -138,45 +123,91 @@ int saveScreenshot(MainWindow &window, const QString &path)
     return 1;
 }
 
-int runWindow(const QCommandLineParser &parser, const QString &path)
+void prepareWindow(MainWindow &window, const CommandLine &commandLine)
 {
-    std::unique_ptr<TraceFile> traceFile;
-    if (!parser.isSet(ScreenshotOption))
-        traceFile = std::make_unique<TraceFile>();
-    MainWindow window;
-    if (!parser.isSet(ScreenshotOption))
+    const bool bForUser = commandLine.screenshotPath().isEmpty();
+    if (bForUser)
         window.restoreSettings();
-    const QStringList size = parser.value(SizeOption).split(QLatin1Char('x'));
-    if (size.size() == 2)
-        window.resize(size.at(0).toInt(), size.at(1).toInt());
-    if (parser.isSet(DarkOption))
+    if (commandLine.size().isValid())
+        window.resize(commandLine.size());
+    if (commandLine.isDark())
         window.setDark(true);
-    if (!parser.isSet(ScreenshotOption))
+    if (bForUser)
         window.joinNetworks();
     window.show();
+}
+
+/** Why this window is not the one that is open already; the user can do nothing about what else there is. */
+void tellIfAlone(MainWindow &window, const PYXSingleInstance &instance, PYXSingleInstance::eResult result)
+{
+    if (result == PYXSingleInstance::ekFirstDoesNotAnswer || result == PYXSingleInstance::ekRefused)
+        complain(&window,
+                 tr("%1 is running already, but cannot be reached. This is a window of its own.")
+                     .arg(QCoreApplication::applicationName()),
+                 instance.errorString(), TraceSource, __LINE__);
+    else if (result == PYXSingleInstance::ekError)
+        PYXRuntime::PYXTraceWrapper::staticTraceWarn(instance.errorString(), TraceSource, __LINE__);
+}
+
+int runWindow(const CommandLine &commandLine, PYXRuntime::PYXAppInternalsSimple &internals,
+              PYXSingleInstance &instance, PYXSingleInstance::eResult result)
+{
+    using PYXRuntime::PYXStandardIcons;
+    const QString picture = commandLine.screenshotPath();
+    std::unique_ptr<TraceFile> traceFile;
+    if (picture.isEmpty())
+        traceFile = std::make_unique<TraceFile>();
+    QApplication::setWindowIcon(
+        PYXStandardIcons::staticRegisteredIcon(PYXStandardIcons::ekIcon_Application_Icon));
+    MainWindow window;
+    window.followModes(&internals);
+    takeSecondStarts(&instance, &internals, &window);
+    prepareWindow(window, commandLine);
+    const QString path = commandLine.recording();
     const bool bOpened = !path.isEmpty() && window.openRecording(path);
     if (!bOpened)
         window.openOwnBand();
-    if (!parser.isSet(ScreenshotOption))
-        return QCoreApplication::exec();
-    return path.isEmpty() || bOpened ? saveScreenshot(window, parser.value(ScreenshotOption)) : 1;
+    if (!picture.isEmpty())
+        return path.isEmpty() || bOpened ? saveScreenshot(window, picture) : 1;
+    tellIfAlone(window, instance, result);
+    const int exitCode = QCoreApplication::exec();
+    instance.stop(); // who is started from now on is not kept waiting
+    return exitCode;
 }
 
-int run(bool bHeadless)
+/** A portable program is no other start of one that is installed. */
+QString instanceId(const CommandLine &commandLine)
+{
+    const QString name =
+        QCoreApplication::organizationName() + QLatin1Char('/') + QCoreApplication::applicationName();
+    return commandLine.isPortable() ? name + QLatin1Char(' ') + QCoreApplication::applicationDirPath() : name;
+}
+
+int run()
 {
     QCoreApplication::setApplicationName(QStringLiteral("Band Monitor"));
     QCoreApplication::setOrganizationName(QStringLiteral("PYXRuntime"));
-    QCommandLineParser parser;
-    setUp(parser);
-    parser.process(*QCoreApplication::instance());
-    const QString path = parser.positionalArguments().value(0);
+    PYXRuntime::PYXAppInternalsSimple internals;
+    CommandLine commandLine;
+    commandLine.process(internals.cmdLineArgs_withoutStandard());
+    const bool bHeadless = commandLine.isHeadless();
+
+    PYXSingleInstance instance(instanceId(commandLine));
+    auto result = PYXSingleInstance::ekFirst;
+    if (!bHeadless && commandLine.screenshotPath().isEmpty() && !commandLine.isNewInstance())
+        result = instance.start();
+    if (result == PYXSingleInstance::ekHandedOver)
+        return 0;
 
     PYXRuntime::initialize_PYXRuntime(bHeadless ? PYXRuntime::ekInitialize_NoFonts
                                                 : PYXRuntime::ekInitialize_Default);
-    prepareSettings(parser.isSet(PortableOption));
-    const int result = bHeadless ? runHeadless(path) : runWindow(parser, path);
+    internals.initialize_PYXAppInternalsImpl();
+    prepareSettings(commandLine.isPortable());
+    const int exitCode = bHeadless ? runHeadless(commandLine.recording())
+                                   : runWindow(commandLine, internals, instance, result);
+    internals.cleanup_PYXAppInternalsImpl();
     PYXRuntime::uninitialize_PYXRuntime();
-    return result;
+    return exitCode;
 }
 
 } // namespace
@@ -185,10 +216,10 @@ int main(int argc, char **argv)
 {
     if (isHeadless(argc, argv)) {
         const QCoreApplication application(argc, argv);
-        return run(true);
+        return run();
     }
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const QApplication application(argc, argv);
-    return run(false);
+    return run();
 }

@@ -6,21 +6,28 @@
 #include "DetectorDialog.h"
 #include "LogDock.h"
 #include "RecentRecordings.h"
+#include "SecondStart.h"
 #include "SignalMonitor.h"
+#include "SignalPopups.h"
 
 #include "SettingsHome.h"
 #include "WavBytes.h"
 
+#include <PYXAppInternalsSimple.h>
+#include <PYXNotification.h>
+#include <PYXSingleInstance.h>
 #include <PYXTraceWrapper.h>
 
 #include <QtCore/QLocale>
 #include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 #include <QtWidgets/QAction>
+#include <QtWidgets/QDockWidget>
 #include <QtWidgets/QFileDialog>
 #include <QtWidgets/QLineEdit>
 #include <QtWidgets/QMessageBox>
 #include <QtWidgets/QPlainTextEdit>
+#include <QtWidgets/QPushButton>
 #include <QtWidgets/QSpinBox>
 #include <QtWidgets/QTableView>
 
@@ -28,6 +35,8 @@
 #include <thread>
 
 using namespace BandMonitor;
+using PYXRuntime::PYXAppInternalsSimple;
+using PYXRuntime::PYXNotification;
 using PYXRuntime::PYXTraceWrapper;
 
 namespace {
@@ -55,6 +64,8 @@ const QAbstractItemModel &tableOf(const QWidget &parent)
 
 } // namespace
 
+Q_DECLARE_METATYPE(QDialogButtonBox::StandardButton)
+
 class tst_MainWindow : public QObject
 {
     Q_OBJECT
@@ -77,6 +88,14 @@ private Q_SLOTS:
     void logsTracesOfOtherThreads();
     void keepsTheLogBounded();
     void keepsRowsOfKnownSignals();
+    void switchesModesByChords_data();
+    void switchesModesByChords();
+    void keepsDeveloperDocksToDebugMode();
+    void asksBeforeARecordingEnds_data();
+    void asksBeforeARecordingEnds();
+    void announcesNewSignals_data();
+    void announcesNewSignals();
+    void takesTheRecordingOfASecondStart();
 
 private:
     QTemporaryDir m_directory;
@@ -282,6 +301,173 @@ void tst_MainWindow::keepsRowsOfKnownSignals()
     model.setDetections({second});
     QCOMPARE(resets.size(), 1);
     QCOMPARE(model.rowCount(), 1);
+}
+
+void tst_MainWindow::switchesModesByChords_data()
+{
+    QTest::addColumn<Qt::Key>("lastKey");
+    QTest::addColumn<QString>("title");
+    QTest::addColumn<bool>("developer");
+    QTest::newRow("expert") << Qt::Key_E << "Band [expert]" << false;
+    QTest::newRow("debug") << Qt::Key_D << "Band [debug]" << true;
+}
+
+void tst_MainWindow::switchesModesByChords()
+{
+    QFETCH(Qt::Key, lastKey);
+    QFETCH(bool, developer);
+    QCoreApplication::setApplicationName("Band");
+    PYXAppInternalsSimple internals;
+    internals.initialize_PYXAppInternalsImpl();
+    MainWindow window;
+    window.followModes(&internals);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+    const auto chord = [&] {
+        for (const Qt::Key key : {Qt::Key_A, Qt::Key_M, lastKey})
+            QTest::keyClick(&window, key, Qt::ControlModifier | Qt::ShiftModifier);
+    };
+    chord();
+    QTEST(window.windowTitle(), "title");
+    for (const char *const name : {"scopeDock", "brokerDock", "poolDock"}) {
+        const auto *const dock = window.findChild<QDockWidget *>(name);
+        QCOMPARE(!dock->isHidden(), developer);
+        QCOMPARE(dock->toggleViewAction()->isVisible(), developer);
+    }
+    chord();
+    QCOMPARE(window.windowTitle(), "Band");
+    QVERIFY(window.findChild<QDockWidget *>("poolDock")->isHidden());
+}
+
+void tst_MainWindow::keepsDeveloperDocksToDebugMode()
+{
+    const SettingsHome home;
+    {
+        PYXAppInternalsSimple internals;
+        internals.setAppModes(PYXAppInternalsSimple::ekAppMode_Debug);
+        internals.initialize_PYXAppInternalsImpl();
+        MainWindow window;
+        window.followModes(&internals);
+        window.restoreSettings();
+        window.show();
+        auto *const broker = window.findChild<QDockWidget *>("brokerDock");
+        QTRY_COMPARE(broker->findChild<QTableView *>()->model()->rowCount() > 0, true);
+        window.addDockWidget(Qt::LeftDockWidgetArea, broker);
+        window.findChild<QDockWidget *>("scopeDock")->close();
+        internals.setAppModes(PYXAppInternalsSimple::ekAppMode_Expert);
+        QVERIFY(window.findChild<QDockWidget *>("scopeDock")->isHidden()); // the user does not want it
+        window.close();
+    }
+    MainWindow window;
+    window.restoreSettings();
+    auto *const broker = window.findChild<QDockWidget *>("brokerDock");
+    QVERIFY(broker->isHidden());
+    QCOMPARE(window.dockWidgetArea(broker), Qt::LeftDockWidgetArea);
+}
+
+void tst_MainWindow::asksBeforeARecordingEnds_data()
+{
+    QTest::addColumn<QDialogButtonBox::StandardButton>("suppressed");
+    QTest::addColumn<QDialogButtonBox::StandardButton>("answer"); // NoButton: must not ask
+    QTest::addColumn<bool>("closed");
+    QTest::newRow("stop") << QDialogButtonBox::NoButton << QDialogButtonBox::Yes << true;
+    QTest::newRow("go on") << QDialogButtonBox::NoButton << QDialogButtonBox::No << false;
+    QTest::newRow("stop for ever") << QDialogButtonBox::Yes << QDialogButtonBox::NoButton << true;
+    QTest::newRow("never stop") << QDialogButtonBox::No << QDialogButtonBox::Yes << true;
+}
+
+void tst_MainWindow::asksBeforeARecordingEnds()
+{
+    QFETCH(QDialogButtonBox::StandardButton, suppressed);
+    QFETCH(QDialogButtonBox::StandardButton, answer);
+    const SettingsHome home;
+    qputenv("HOME", home.path("").toLocal8Bit()); // for the results
+    PYXNotification::showAllMessagesAgain();
+    if (suppressed != QDialogButtonBox::NoButton)
+        PYXNotification::setWillShowMessage("BandMonitor", "CloseWhileRecording", false, suppressed);
+    MainWindow window;
+    QVERIFY(window.openRecording(m_path));
+    window.show();
+    window.setRecording(true);
+    auto asked = false;
+    QTimer::singleShot(0, &window, [&] {
+        auto *const question = window.findChild<PYXNotification *>();
+        asked = question != nullptr;
+        if (asked)
+            question->findChild<QDialogButtonBox *>()->button(answer)->click();
+    });
+    QTEST(window.close(), "closed");
+    QCOMPARE(asked, answer != QDialogButtonBox::NoButton);
+    QTEST(window.isHidden(), "closed");
+    QCOMPARE(window.findChild<QAction *>("recordAction")->isChecked(), !window.isHidden());
+    PYXNotification::showAllMessagesAgain();
+}
+
+void tst_MainWindow::announcesNewSignals_data()
+{
+    QTest::addColumn<QList<int>>("first");
+    QTest::addColumn<QList<int>>("then");
+    QTest::addColumn<QString>("text");
+    QTest::newRow("one") << QList<int>{} << QList<int>{1} << "New signal at 1.000 kHz";
+    QTest::newRow("one after another")
+        << QList<int>{1} << QList<int>{1, 2} << "New signals at 1.000 kHz, 2.000 kHz";
+    QTest::newRow("fragment") << QList<int>{1, 2} << QList<int>{2} << "New signal at 2.000 kHz";
+    QTest::newRow("many") << QList<int>{} << QList<int>{1, 2, 3, 4, 5, 6}
+                          << "New signals at 1.000 kHz, 2.000 kHz, 3.000 kHz, 4.000 kHz and 2 more";
+}
+
+void tst_MainWindow::announcesNewSignals()
+{
+    QFETCH(QList<int>, first);
+    QFETCH(QList<int>, then);
+    const auto detections = [](const QList<int> &ids) {
+        std::vector<struDetection> list(std::size_t(ids.size()));
+        for (std::size_t i = 0; i < list.size(); ++i) {
+            list[i].id = ids.at(int(i));
+            list[i].frequency = 1000 * list[i].id;
+        }
+        return list;
+    };
+    QWidget window;
+    SignalPopups popups(&window);
+    popups.setIntervals(50, 600'000);
+    QSignalSpy announced(&popups, &SignalPopups::si_announced);
+    popups.setDetections(detections({9})); // while it is disabled: no news
+    popups.setEnabled(true);
+    popups.setDetections(detections(QList<int>{9} + first));
+    popups.setDetections(detections(QList<int>{9} + then));
+    QTRY_COMPARE(announced.size(), 1);
+    QTEST(announced.at(0).at(0).toString(), "text");
+    popups.setDetections(detections({7, 8})); // too soon after
+    QVERIFY(!announced.wait(150));
+}
+
+void tst_MainWindow::takesTheRecordingOfASecondStart()
+{
+    const QTemporaryDir runtimeDirectory;
+    qputenv("XDG_RUNTIME_DIR", runtimeDirectory.path().toLocal8Bit());
+    PYXRuntime::PYXSingleInstance instance("PYXRuntime/Band Monitor"); // as the program calls itself
+    QCOMPARE(instance.start(), PYXRuntime::PYXSingleInstance::ekFirst);
+    PYXAppInternalsSimple internals;
+    MainWindow window;
+    takeSecondStarts(&instance, &internals, &window);
+    window.showMinimized();
+
+    QProcess second;
+    second.setWorkingDirectory(m_directory.path());
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("PATH", QDir::toNativeSeparators(QCoreApplication::applicationDirPath()) +
+                                   QDir::listSeparator() + environment.value("PATH"));
+    second.setProcessEnvironment(environment);
+    second.start(QCoreApplication::applicationDirPath() + "/bandmonitor",
+                 {"++expert", "--dark", "tones.wav"});
+    QTRY_COMPARE_WITH_TIMEOUT(second.state(), QProcess::NotRunning, 30'000);
+    QCOMPARE(second.exitCode(), 0);
+    QTRY_VERIFY(window.monitor() != nullptr);
+    QCOMPARE(window.monitor()->source().name(), "tones.wav");
+    QVERIFY(!window.isMinimized());
+    QCOMPARE(internals.appIsInExpertMode(), true);
 }
 
 QTEST_MAIN(tst_MainWindow)
