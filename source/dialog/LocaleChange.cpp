@@ -8,8 +8,6 @@
 namespace PYXRuntime {
 namespace {
 
-constexpr const char *LocaleChanged = SIGNAL(si_localeChanged());
-
 // By name: any object can stand in for the library's own connector.
 QObject *translationConnector()
 {
@@ -24,7 +22,7 @@ QObject *translationConnector()
 void connectToLocaleChange(const QObject *receiver, const char *slot)
 {
     if (const QObject *const connector = translationConnector())
-        QObject::connect(connector, LocaleChanged, receiver, slot, Qt::UniqueConnection);
+        QObject::connect(connector, SIGNAL(si_localeChanged()), receiver, slot, Qt::UniqueConnection);
 }
 
 } // namespace PYXRuntime
