@@ -2,8 +2,19 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #include "Colours.h"
 
-namespace BandMonitor {
+#include "Scale.h"
 
+#include <QtGui/QPalette>
+#include <QtWidgets/QApplication>
+#include <QtWidgets/QStyle>
+
+namespace BandMonitor {
+namespace {
+
+// So much of the highlight is behind the chosen entry of a menu: its icon has colours of its own.
+constexpr double MenuHighlight = 0.25;
+
+/** Light text on dark ground, for rooms with little light. */
 QPalette darkPalette()
 {
     const QColor window(0x2b, 0x2d, 0x30);
@@ -23,6 +34,23 @@ QPalette darkPalette()
     for (const QPalette::ColorRole role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, dimmed);
     return palette;
+}
+
+QPalette menuPalette(QPalette palette)
+{
+    palette.setColor(QPalette::Highlight, mixed(palette.color(QPalette::Window),
+                                                palette.color(QPalette::Highlight), MenuHighlight));
+    palette.setColor(QPalette::HighlightedText, palette.color(QPalette::WindowText));
+    return palette;
+}
+
+} // namespace
+
+void setDarkColours(bool bDark)
+{
+    const QPalette palette = bDark ? darkPalette() : QApplication::style()->standardPalette();
+    QApplication::setPalette(palette);
+    QApplication::setPalette(menuPalette(palette), "QMenu");
 }
 
 } // namespace BandMonitor

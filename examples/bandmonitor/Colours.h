@@ -2,11 +2,9 @@
 // SPDX-License-Identifier: BSD-3-Clause
 #pragma once
 
-#include <QtGui/QPalette>
-
 namespace BandMonitor {
 
-/** Light text on dark ground, for rooms with little light. */
-QPalette darkPalette();
+/** Gives the application dark colours, or those of its style. */
+void setDarkColours(bool bDark);
 
 } // namespace BandMonitor

@@ -25,8 +25,8 @@ FileDock::FileDock(QWidget *parent)
     m_table->setAccessibleName(tr("Written files"));
     m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_table->horizontalHeader()->setSectionResizeMode(FileModel::ekColumn_File, QHeaderView::Stretch);
-    auto *const openButton = new QPushButton(tr("&Open File"));
-    auto *const folderButton = new QPushButton(tr("Open &Folder"));
+    auto *const openButton = new QPushButton(tr("Open F&ile"));
+    auto *const folderButton = new QPushButton(tr("Open F&older"));
     connect(openButton, &QPushButton::clicked, this, [this] { _open(false); });
     connect(folderButton, &QPushButton::clicked, this, [this] { _open(true); });
     connect(m_table, &QTableView::activated, this, [this] { _open(false); });

@@ -50,7 +50,7 @@ constexpr struEntry Entries[] = {
     {"detectorAction", QT_TRANSLATE_NOOP("BandMonitor::MainActions", "&Detector..."),
      PYXStandardIcons::ekIcon_Settings},
     {"wholeBandAction", QT_TRANSLATE_NOOP("BandMonitor::MainActions", "Whole &Band"),
-     PYXStandardIcons::ekIcon_Image_Zoom_Reset},
+     PYXStandardIcons::ekIcon_Display_Auto_XScale},
     {"darkAction", QT_TRANSLATE_NOOP("BandMonitor::MainActions", "&Dark Colours"),
      PYXStandardIcons::ekIcon_Color_Select, QKeySequence::UnknownKey, true},
     {"popUpsAction", QT_TRANSLATE_NOOP("BandMonitor::MainActions", "&Announce New Signals"),

@@ -43,7 +43,6 @@
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QInputDialog>
-#include <QtWidgets/QStyle>
 
 using PYXRuntime::PYXFileFilter;
 using PYXRuntime::PYXNotification;
@@ -111,7 +110,8 @@ void MainWindow::restoreSettings()
     m_bArranged = restoreState(settings.byteArrayValue(StateKey));
     m_developerDocks->setShown(m_developerDocks->isShown()); // it may have been another mode then
     setDark(settings.boolValue(DarkKey));
-    m_actions->action(MainActions::ekAction_PopUps)->setChecked(settings.value(PopUpsKey, true).toBool());
+    m_actions->action(MainActions::ekAction_PopUps)
+        ->setChecked(settings.value(PopUpsKey, QVariant(true)).toBool());
     m_detectorParameters = struDetectorParameters::restored();
     m_bKeepSettings = true;
 }
@@ -231,7 +231,7 @@ void MainWindow::_createActions()
 void MainWindow::setDark(bool bDark)
 {
     m_actions->action(MainActions::ekAction_Dark)->setChecked(bDark);
-    QApplication::setPalette(bDark ? darkPalette() : QApplication::style()->standardPalette());
+    setDarkColours(bDark);
 }
 
 bool MainWindow::openRecording(const QString &path)

@@ -7,7 +7,7 @@
 #include <PYXPopupNotification.h>
 
 #include <QtCore/QStringList>
-#include <QtWidgets/QWidget>
+#include <QtWidgets/QApplication>
 
 #include <algorithm>
 
@@ -69,9 +69,13 @@ void SignalPopups::_announce()
 {
     if (m_news.empty())
         return;
+    if (QApplication::activeModalWidget() != nullptr) {
+        m_timer.start(m_collecting); // it would lie over what the user has to read
+        return;
+    }
     QStringList frequencies;
     for (const auto &[id, frequency] : m_news)
-        frequencies += frequencyText(frequency);
+        frequencies += frequencyText(frequency).replace(QLatin1Char(' '), QChar(QChar::Nbsp));
     const int unnamed = frequencies.size() - MostFrequencies;
     frequencies = frequencies.mid(0, MostFrequencies);
     const QString named = frequencies.join(tr(", "));

@@ -52,7 +52,7 @@ QWidget *StationDock::_createPeers()
 {
     m_peerTable->setObjectName(QStringLiteral("peerTable"));
     m_peerTable->setAccessibleName(tr("Peers"));
-    auto *const addButton = new QPushButton(tr("A&dd"));
+    auto *const addButton = new QPushButton(tr("&Add"));
     auto *const removeButton = new QPushButton(tr("&Remove"));
     addButton->setObjectName(QStringLiteral("addPeerButton"));
     removeButton->setObjectName(QStringLiteral("removePeerButton"));
