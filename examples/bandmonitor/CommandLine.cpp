@@ -43,11 +43,6 @@ CommandLine::CommandLine()
         {NewInstanceOption, tr("Open a window of its own, even if one is open that could show this.")});
 }
 
-bool CommandLine::isHeadless() const
-{
-    return m_parser.isSet(HeadlessOption);
-}
-
 bool CommandLine::isDark() const
 {
     return m_parser.isSet(DarkOption);

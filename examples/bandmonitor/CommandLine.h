@@ -18,7 +18,6 @@ public:
      * sense. */
     void process(const QStringList &arguments) { m_parser.process(arguments); }
 
-    bool isHeadless() const;
     bool isDark() const;
     bool isPortable() const;
     /** Whether the window must be one of its own, whatever runs already. */

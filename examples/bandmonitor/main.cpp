@@ -183,14 +183,13 @@ QString instanceId(const CommandLine &commandLine)
     return commandLine.isPortable() ? name + QLatin1Char(' ') + QCoreApplication::applicationDirPath() : name;
 }
 
-int run()
+int run(bool bHeadless)
 {
     QCoreApplication::setApplicationName(QStringLiteral("Band Monitor"));
     QCoreApplication::setOrganizationName(QStringLiteral("PYXRuntime"));
     PYXRuntime::PYXAppInternalsSimple internals;
     CommandLine commandLine;
     commandLine.process(internals.cmdLineArgs_withoutStandard());
-    const bool bHeadless = commandLine.isHeadless();
 
     PYXSingleInstance instance(instanceId(commandLine));
     auto result = PYXSingleInstance::ekFirst;
@@ -216,10 +215,10 @@ int main(int argc, char **argv)
 {
     if (isHeadless(argc, argv)) {
         const QCoreApplication application(argc, argv);
-        return run();
+        return run(true);
     }
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     const QApplication application(argc, argv);
-    return run();
+    return run(false);
 }
