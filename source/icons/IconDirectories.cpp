@@ -2,20 +2,17 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "IconDirectories.h"
 
+#include <QtCore/QDateTime>
 #include <QtCore/QDir>
 #include <QtCore/QDirIterator>
 
 #include <algorithm>
-#include <chrono>
-#include <filesystem>
 
 namespace PYXRuntime {
 namespace {
 
-namespace fs = std::filesystem;
-
 /** No file system's time stamps are coarser. */
-constexpr auto CoarsestTimeStamp = std::chrono::seconds(2);
+constexpr qint64 CoarsestTimeStampMs = 2000;
 
 /** Resources have no time, and change only when more are registered. */
 constexpr qint64 TimeOfResources = 0;
@@ -54,12 +51,11 @@ IconDirectories::struListing IconDirectories::_listing(const QDir &dir)
     struListing listing;
     listing.time = TimeOfResources;
     if (!isResource(path)) {
-        std::error_code error;
-        const fs::file_time_type changed = fs::last_write_time(fs::path(path.toStdU16String()), error);
-        if (error)
+        const QDateTime changed = QFileInfo(path).lastModified();
+        if (!changed.isValid())
             return {};
-        listing.time = changed.time_since_epoch().count();
-        bMayBeKept = fs::file_time_type::clock::now() - changed > CoarsestTimeStamp;
+        listing.time = changed.toMSecsSinceEpoch();
+        bMayBeKept = QDateTime::currentMSecsSinceEpoch() - listing.time > CoarsestTimeStampMs;
     }
     const auto kept = m_listings.constFind(path);
     if (kept != m_listings.constEnd() && kept->time == listing.time) {

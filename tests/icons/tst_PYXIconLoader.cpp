@@ -190,6 +190,8 @@ void tst_PYXIconLoader::tellsTheBaseNameItLooksFor_data()
                                     << "*";
     QTest::newRow("placeholder") << "%2"
                                  << "%2";
+    QTest::newRow("no Unicode") << QString(QChar(0xD800)) + "/save"
+                                << "save";
 }
 
 void tst_PYXIconLoader::tellsTheBaseNameItLooksFor()
