@@ -8,6 +8,7 @@
 #include "PopupPlace.h"
 #include "PYXTraceWrapper.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtCore/QEvent>
 #include <QtCore/QPropertyAnimation>
 #include <QtGui/QBitmap>
@@ -178,6 +179,10 @@ void PYXPopupNotificationWidget::_animate(int fadeInMs, int showMs, int fadeOutM
 
 void PYXPopupNotificationWidget::_sl_animation_finished()
 {
+    // It still runs, while whoever hears of it may delete the widget.
+    m_animation->setParent(QCoreApplication::instance());
+    m_animation->deleteLater();
+    m_animation.clear();
     delete m_inset;
     hide();
     Q_EMIT finished();
