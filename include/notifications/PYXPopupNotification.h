@@ -75,6 +75,7 @@ private:
 
     PYXPopupNotification();
     static PYXPopupNotification *_lockedInstance();
+    static bool _isConnectable(const QObject *receiver, const char *member);
     bool _takeEntry(struEntry *entry);
     void _scheduleNext();
 

@@ -134,9 +134,17 @@ void PYXPopupNotification::queueQuickNotification(const QString &text, QWidget *
     queueQuickNotification(text, QuickShowMs, parent);
 }
 
+/** Also warns where it is not. To be called unlocked: whoever handles the warning may queue a text. */
+bool PYXPopupNotification::_isConnectable(const QObject *receiver, const char *member)
+{
+    const PYXPopupNotification probe;
+    return receiver != nullptr && member != nullptr &&
+           connect(&probe, SIGNAL(si_queueEmpty()), receiver, member);
+}
+
 bool PYXPopupNotification::connect_queueEmpty(QObject *receiver, const char *member)
 {
-    if (receiver == nullptr || member == nullptr)
+    if (!_isConnectable(receiver, member))
         return false;
     const Lock lock(guarded().mutex);
     const PYXPopupNotification *const instance = _lockedInstance();
@@ -145,7 +153,7 @@ bool PYXPopupNotification::connect_queueEmpty(QObject *receiver, const char *mem
 
 bool PYXPopupNotification::disconnect_queueEmpty(QObject *receiver, const char *member)
 {
-    if (receiver == nullptr)
+    if (receiver == nullptr || (member != nullptr && !_isConnectable(receiver, member)))
         return false;
     const Lock lock(guarded().mutex);
     const PYXPopupNotification *const instance = guarded().instance;

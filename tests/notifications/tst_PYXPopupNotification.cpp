@@ -102,6 +102,7 @@ private slots:
     void takesNoFocusAndIsAnAlert();
     void outlivesItsParent();
     void startsAgain();
+    void survivesListeners();
     void fitsItsText();
     void isReadable_data();
     void isReadable();
@@ -256,7 +257,7 @@ void tst_PYXPopupNotification::startsAgain()
     widget.popup(1, 20, 1, &window);
     QVERIFY(!widget.isFinished());
     QVERIFY(finished.wait());
-    QTRY_COMPARE(widget.findChildren<QSequentialAnimationGroup *>().size(), 1); // does not pile up
+    QTRY_VERIFY(widget.findChildren<QSequentialAnimationGroup *>().isEmpty()); // does not pile up
     QCOMPARE(finished.count(), 1);
 
     PYXPopupNotification::queueNotification("dropped", 60'000, &window);
@@ -266,6 +267,31 @@ void tst_PYXPopupNotification::startsAgain()
     QVERIFY(!PYXPopupNotification::hasInstance() && shownPopup() == nullptr);
     PYXPopupNotification::queueNotification("next", 1, 1, 1, &window);
     QTRY_VERIFY(m_shown.contains("next"));
+}
+
+void tst_PYXPopupNotification::survivesListeners()
+{
+    QPointer<PYXPopupNotificationWidget> widget(new PYXPopupNotificationWidget);
+    bool bStillRuns = false;
+    connect(widget.data(), &PYXPopupNotificationWidget::finished, this, [&] {
+        const QPointer<QObject> animation(sender()->property("animation").value<QObject *>());
+        delete widget.data();
+        bStillRuns = !animation.isNull(); // Qt looks into it once more
+    });
+    widget->popup(1, 1, 1, nullptr);
+    widget->setProperty("animation",
+                        QVariant::fromValue<QObject *>(widget->findChild<QSequentialAnimationGroup *>()));
+    QTRY_VERIFY(widget.isNull());
+    QVERIFY(bStillRuns);
+
+    // What Qt warns of may be shown in turn.
+    const auto previous =
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &text) {
+            PYXPopupNotification::queueNotification(text);
+        });
+    const bool bConnected = PYXPopupNotification::connect_queueEmpty(this, SIGNAL(nothing()));
+    qInstallMessageHandler(previous);
+    QVERIFY(!bConnected);
 }
 
 void tst_PYXPopupNotification::fitsItsText()
