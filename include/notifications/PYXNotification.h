@@ -103,15 +103,16 @@ public:
     /** Ends all suppressions, of this run and of later ones. */
     static void showAllMessagesAgain();
 
+    /** Of a text of more than 20 000 characters only these are shown. */
     void setText(const QString &text);
-    QString text() const;
+    QString text() const { return m_text; }
 
     /** Also sets its pixmap, and whether the check box asks about a message or a question. */
     void setIcon(QMessageBox::Icon icon);
     QMessageBox::Icon icon() const { return m_icon; }
     void setIconPixmap(const QPixmap &pixmap);
     QPixmap iconPixmap() const;
-    /** The application style's pixmap; null for NoIcon. */
+    /** The application style's pixmap; null for NoIcon, and outside of the GUI thread. */
     static QPixmap standardPixmap(QMessageBox::Icon icon);
 
     void setStandardButtons(StandardButtons buttons);
@@ -138,6 +139,7 @@ private:
     void _applyDefaultButton();
     void _sl_buttonBox_clicked(QAbstractButton *a_button);
 
+    QString m_text;
     QMessageBox::Icon m_icon = QMessageBox::NoIcon;
     bool m_bOwnPixmap = false;
     StandardButton m_defaultButton = QDialogButtonBox::NoButton;

@@ -28,6 +28,9 @@ using StandardButtons = PYXNotification::StandardButtons;
 constexpr const char *TraceFile = "source\\PYXNotification";
 constexpr int MinimumCharactersPerLine = 30;
 constexpr int MaximumCharactersPerLine = 70;
+/** Nobody reads more, and laying out megabytes takes minutes. */
+constexpr int MaximumShownCharacters = 20'000;
+const QChar Ellipsis(0x2026);
 
 /** What the four kinds of dialogs have in common. */
 struct struRequest
@@ -113,7 +116,6 @@ void PYXNotification::_build()
     m_textLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_textArea->setFrameShape(QFrame::NoFrame);
     m_textArea->setWidgetResizable(true);
-    m_textArea->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_textArea->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored); // what _fitText() says holds
     m_textArea->setWidget(m_textLabel);
     m_showAgainBox->setObjectName(QStringLiteral("showAgainBox"));
@@ -214,14 +216,12 @@ void PYXNotification::showAllMessagesAgain()
 
 void PYXNotification::setText(const QString &text)
 {
-    m_textLabel->setText(text);
-    setAccessibleDescription(text);
+    m_text = text;
+    const bool bCut = text.size() > MaximumShownCharacters;
+    const QString shown = bCut ? text.left(MaximumShownCharacters) + Ellipsis : text;
+    m_textLabel->setText(shown);
+    setAccessibleDescription(shown);
     _fitText();
-}
-
-QString PYXNotification::text() const
-{
-    return m_textLabel->text();
 }
 
 void PYXNotification::setIcon(QMessageBox::Icon icon)
@@ -253,6 +253,8 @@ QPixmap PYXNotification::iconPixmap() const
 
 QPixmap PYXNotification::standardPixmap(QMessageBox::Icon icon)
 {
+    if (!canShowDialogs())
+        return {};
     const auto standardIcon = [icon]() -> QIcon {
         const QStyle *const style = QApplication::style();
         switch (icon) {
@@ -310,13 +312,18 @@ void PYXNotification::_fitText()
     const QSize room = screen == nullptr ? QSize(640, 480) : screen->availableSize();
     const QRect natural =
         metrics.boundingRect(QRect(0, 0, qMin(character * MaximumCharactersPerLine, room.width() / 2), 1),
-                             Qt::TextWordWrap, text());
+                             Qt::TextWordWrap, m_textLabel->text());
     const int width = qMax(natural.width() + character, character * MinimumCharactersPerLine);
     const int height = qMax(0, m_textLabel->heightForWidth(width)); // -1 of an empty text
+    // A word may be wider than the lines, a path for instance.
+    const bool bScrollsAside = width > room.width() * 2 / 3;
     const bool bScrolls = height > room.height() / 2;
-    const int bar = bScrolls ? style()->pixelMetric(QStyle::PM_ScrollBarExtent) : 0;
-    m_textArea->setFocusPolicy(bScrolls ? Qt::TabFocus : Qt::NoFocus); // for those who scroll by keys
-    m_textArea->setMinimumSize(width + bar, bScrolls ? room.height() / 2 : height);
+    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    m_textArea->setHorizontalScrollBarPolicy(bScrollsAside ? Qt::ScrollBarAlwaysOn : Qt::ScrollBarAlwaysOff);
+    m_textArea->setFocusPolicy(bScrolls || bScrollsAside ? Qt::TabFocus
+                                                         : Qt::NoFocus); // for those who scroll by keys
+    m_textArea->setMinimumSize((bScrollsAside ? room.width() * 2 / 3 : width) + (bScrolls ? bar : 0),
+                               (bScrolls ? room.height() / 2 : height) + (bScrollsAside ? bar : 0));
 }
 
 void PYXNotification::_sl_buttonBox_clicked(QAbstractButton *a_button)

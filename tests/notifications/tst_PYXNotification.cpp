@@ -190,8 +190,11 @@ void tst_PYXNotification::fitsItsText()
     QVERIFY(three.height() > one.height() && three.width() == one.width());
     QVERIFY(sizeOf("text", 18).height() > one.height() * 4 / 3);
     const QSize screen = QGuiApplication::primaryScreen()->availableSize();
-    const QSize huge = sizeOf(QString("word ").repeated(20'000), 18);
-    QVERIFY(huge.width() < screen.width() && huge.height() < screen.height());
+    for (const QString &text : {QString("word ").repeated(2'000'000), QString(10'000'000, 'w'),
+                                QString(10'000'000, '\n'), QString(1'000, 'w')}) {
+        const QSize huge = sizeOf(text, 18);
+        QVERIFY(huge.width() < screen.width() && huge.height() < screen.height());
+    }
 }
 
 void tst_PYXNotification::keepsSuppressionsForTheNextRun()
