@@ -17,6 +17,7 @@ namespace PYXRuntime {
 namespace {
 
 using Lock = std::lock_guard<DataMutex>;
+using StoreLock = std::lock_guard<std::recursive_mutex>;
 using struMessage = SuppressedMessages::struMessage;
 
 constexpr int MaximumTextLength = 200;
@@ -70,6 +71,19 @@ std::optional<struMessage> read(const PYXSettings &settings, const QString &grou
     return message;
 }
 
+QList<struMessage> readAll()
+{
+    QList<struMessage> messages;
+    PYXSettings settings(PYXSettings::eUserApplicationSettings);
+    settings.beginGroup(StoreGroup);
+    const QStringList groups = settings.childGroups(true);
+    for (const QString &group : groups) {
+        if (const std::optional<struMessage> message = read(settings, group))
+            messages += *message;
+    }
+    return messages;
+}
+
 QString beginningOf(const QString &text)
 {
     const QString line = text.left(4 * MaximumTextLength).simplified();
@@ -86,25 +100,25 @@ SuppressedMessages &SuppressedMessages::instance()
 
 bool SuppressedMessages::contains(const QString &firstKey, const QString &secondKey)
 {
-    const Lock lock(m_mutex);
     _loadOnce();
+    const Lock lock(m_mutex);
     return m_messages.contains(_hashKey(firstKey, secondKey));
 }
 
 SuppressedMessages::StandardButton SuppressedMessages::returnButton(const QString &firstKey,
                                                                     const QString &secondKey)
 {
-    const Lock lock(m_mutex);
     _loadOnce();
+    const Lock lock(m_mutex);
     return m_messages.value(_hashKey(firstKey, secondKey)).returnButton;
 }
 
 QList<struMessage> SuppressedMessages::all()
 {
+    _loadOnce();
     QList<struMessage> messages;
     {
         const Lock lock(m_mutex);
-        _loadOnce();
         messages = m_messages.values();
     }
     const auto rank = [](const struMessage &message) {
@@ -119,40 +133,39 @@ void SuppressedMessages::suppress(struMessage message)
 {
     message.text = beginningOf(message.text);
     message.title = beginningOf(message.title);
-    const Lock lock(m_mutex);
     _loadOnce();
-    struMessage &known = m_messages[_hashKey(message.firstKey, message.secondKey)];
+    const StoreLock storeLock(m_storeMutex);
     const bool bWrite = message.bPersistent;
-    message.bPersistent = bWrite || known.bPersistent;
-    known = message;
+    {
+        const Lock lock(m_mutex);
+        struMessage &known = m_messages[_hashKey(message.firstKey, message.secondKey)];
+        message.bPersistent = bWrite || known.bPersistent;
+        known = message;
+    }
     if (bWrite)
         write(message);
 }
 
 void SuppressedMessages::remove(const QString &firstKey, const QString &secondKey)
 {
-    const Lock lock(m_mutex);
-    _loadOnce();
-    _removeLocked(m_messages.find(_hashKey(firstKey, secondKey)));
+    _removeIf(firstKey, secondKey, [](StandardButton) { return true; });
 }
 
 void SuppressedMessages::removeIfReturning(const QString &firstKey, const QString &secondKey,
                                            StandardButton button)
 {
-    if (button == QDialogButtonBox::NoButton)
-        return;
-    const Lock lock(m_mutex);
-    _loadOnce();
-    const auto message = m_messages.find(_hashKey(firstKey, secondKey));
-    if (message != m_messages.end() && message->returnButton == button)
-        _removeLocked(message);
+    if (button != QDialogButtonBox::NoButton)
+        _removeIf(firstKey, secondKey, [button](StandardButton returned) { return returned == button; });
 }
 
 void SuppressedMessages::clear()
 {
-    const Lock lock(m_mutex);
-    m_messages.clear();
-    m_bLoaded = true;
+    const StoreLock storeLock(m_storeMutex);
+    {
+        const Lock lock(m_mutex);
+        m_messages.clear();
+        m_bLoaded = true;
+    }
     PYXSettings(PYXSettings::eUserApplicationSettings).remove(StoreGroup);
 }
 
@@ -161,32 +174,50 @@ uint SuppressedMessages::_hashKey(const QString &firstKey, const QString &second
     return qHash(firstKey + secondKey, HashSeed);
 }
 
+bool SuppressedMessages::_isLoaded()
+{
+    const Lock lock(m_mutex);
+    return m_bLoaded;
+}
+
 void SuppressedMessages::_loadOnce()
 {
-    if (m_bLoaded || QCoreApplication::instance() == nullptr)
+    if (_isLoaded() || QCoreApplication::instance() == nullptr)
         return; // without an application it is not known yet whose settings these are
+    const StoreLock storeLock(m_storeMutex);
+    if (m_bLoading || _isLoaded())
+        return;
+    m_bLoading = true;
+    const QList<struMessage> messages = readAll();
+    m_bLoading = false;
+    const Lock lock(m_mutex);
+    if (m_bLoaded)
+        return;
     m_bLoaded = true;
-    PYXSettings settings(PYXSettings::eUserApplicationSettings);
-    settings.beginGroup(StoreGroup);
-    const QStringList groups = settings.childGroups(true);
-    for (const QString &group : groups) {
-        const std::optional<struMessage> message = read(settings, group);
-        if (!message)
-            continue;
-        const uint key = _hashKey(message->firstKey, message->secondKey);
+    for (const struMessage &message : messages) {
+        const uint key = _hashKey(message.firstKey, message.secondKey);
         if (!m_messages.contains(key))
-            m_messages.insert(key, *message);
+            m_messages.insert(key, message);
     }
 }
 
-void SuppressedMessages::_removeLocked(QHash<uint, struMessage>::iterator message)
+template <typename Predicate>
+void SuppressedMessages::_removeIf(const QString &firstKey, const QString &secondKey, Predicate matches)
 {
-    if (message == m_messages.end())
-        return;
-    if (message->bPersistent)
+    _loadOnce();
+    const StoreLock storeLock(m_storeMutex);
+    struMessage removed;
+    {
+        const Lock lock(m_mutex);
+        const auto message = m_messages.find(_hashKey(firstKey, secondKey));
+        if (message == m_messages.end() || !matches(message->returnButton))
+            return;
+        removed = *message;
+        m_messages.erase(message);
+    }
+    if (removed.bPersistent)
         PYXSettings(PYXSettings::eUserApplicationSettings)
-            .remove(groupOf(message->firstKey, message->secondKey));
-    m_messages.erase(message);
+            .remove(groupOf(removed.firstKey, removed.secondKey));
 }
 
 } // namespace PYXRuntime

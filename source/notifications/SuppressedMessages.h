@@ -7,6 +7,8 @@
 
 #include <QtCore/QHash>
 
+#include <mutex>
+
 namespace PYXRuntime {
 
 /**
@@ -40,9 +42,17 @@ public:
 
 private:
     static uint _hashKey(const QString &firstKey, const QString &secondKey);
+    bool _isLoaded();
     void _loadOnce();
-    void _removeLocked(QHash<uint, struMessage>::iterator message);
+    template <typename Predicate>
+    void _removeIf(const QString &firstKey, const QString &secondKey, Predicate matches);
 
+    /**
+     * Of whoever changes messages, so that settings and table agree. Recursive, and never locked under the
+     * other one, since settings trace what fails, and a tracer may want to show a message.
+     */
+    std::recursive_mutex m_storeMutex;
+    bool m_bLoading = false;
     DataMutex m_mutex;
     QHash<uint, struMessage> m_messages;
     bool m_bLoaded = false;

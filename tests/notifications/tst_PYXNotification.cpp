@@ -69,6 +69,7 @@ private slots:
     void fitsItsText();
     void keepsSuppressionsForTheNextRun();
     void ignoresGarbageInTheSettings();
+    void tracersMayAsk();
     void threadsMayAsk();
 
 private:
@@ -245,6 +246,32 @@ void tst_PYXNotification::ignoresGarbageInTheSettings()
     QVERIFY(messages[0].text.size() <= 200 && messages[0].text.startsWith("two lines two"));
     nextRun.clear();
     QVERIFY(!PYXSettings(PYXSettings::eUserApplicationSettings).contains(root + "x2/FirstKey"));
+}
+
+/** A tracer that shows messages wants to know whether it may while the settings trace what is wrong. */
+void tst_PYXNotification::tracersMayAsk()
+{
+    struct AskingTracer : RecordingTracer
+    {
+        using RecordingTracer::traceWarn;
+        void traceWarn(const QString &text, const char *file, ushort line) override
+        {
+            RecordingTracer::traceWarn(text, file, line);
+            willShow = messages.contains("module", "stop") ? 0 : 1;
+        }
+        SuppressedMessages messages;
+        int willShow = -1;
+    };
+    const QString path = PYXSettings(PYXSettings::eUserApplicationSettings).fileName();
+    QVERIFY(QDir().mkpath(QFileInfo(path).path()));
+    QFile damaged(path);
+    QVERIFY(damaged.open(QIODevice::WriteOnly) && damaged.write("<PYX") == 4);
+    damaged.close();
+    AskingTracer tracer;
+    PYXTraceWrapper::addTracer(&tracer);
+    QVERIFY(!tracer.messages.contains("module", "start"));
+    QCOMPARE(tracer.willShow, 1);
+    QVERIFY(damaged.remove());
 }
 
 void tst_PYXNotification::threadsMayAsk()
