@@ -44,8 +44,9 @@ struIconImageFile readDrawing(const QString &path, const QList<QSize> &sizes)
     struIconImageFile file;
     if (QFileInfo(path).size() > MaxDrawingBytes)
         return file;
-    const auto drawing = QSharedPointer<QSvgRenderer>::create(path);
-    if (!drawing->isValid())
+    const auto drawing = QSharedPointer<QSvgRenderer>::create();
+    drawing->setFramesPerSecond(0); // an icon stands still: else an animated one would keep a timer running
+    if (!drawing->load(path))
         return file;
     drawing->setAspectRatioMode(Qt::KeepAspectRatio);
     for (const QSize &size : sizes) {

@@ -106,6 +106,7 @@ private Q_SLOTS:
     void isSharpAtEveryRatio();
     void isEmptyWithoutScreens();
     void sizesOfDrawingsAreAbidedBy();
+    void animatedDrawingsStandStill();
     void loadsOneModeAndState();
     void keepsAndOverridesIcons();
     void noticesNewFiles();
@@ -322,6 +323,34 @@ void tst_PYXIconLoader::sizesOfDrawingsAreAbidedBy()
     QCOMPARE(imagesOf(loader, folder.path("a")), QStringList("normal off 24"));
     loader.resetSizesForSVGIcons();
     QCOMPARE(loader.sizesForSVGIcons(), PYXIconLoader::defaultSizesForSVGIcons());
+}
+
+void tst_PYXIconLoader::animatedDrawingsStandStill()
+{
+    struct TimerCounter : QObject
+    {
+        bool eventFilter(QObject *object, QEvent *event) override
+        {
+            const auto *const timer = qobject_cast<QTimer *>(object);
+            count += timer != nullptr && timer != &own && event->type() == QEvent::Timer ? 1 : 0;
+            return false;
+        }
+        QTimer own;
+        int count = 0;
+    };
+    IconFolder folder;
+    folder.write("a_normal_off.svg",
+                 "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 9 9'><rect width='9' height='9'>"
+                 "<animateTransform attributeName='transform' type='rotate' from='0' to='360' dur='2s'/>"
+                 "</rect></svg>");
+    PYXIconLoader loader;
+    QVERIFY(!loader.load(folder.path("a")).isNull());
+    TimerCounter counter;
+    qApp->installEventFilter(&counter);
+    QSignalSpy later(&counter.own, &QTimer::timeout);
+    counter.own.start(150); // five frames
+    QVERIFY(later.wait());
+    QCOMPARE(counter.count, 0);
 }
 
 void tst_PYXIconLoader::loadsOneModeAndState()
