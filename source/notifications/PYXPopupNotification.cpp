@@ -101,7 +101,13 @@ void PYXPopupNotification::queueNotification(const QString &text, int fadeInMs, 
             return;
         }
     }
+    // A tracer may want to show what it gets, which would come back to here.
+    thread_local bool bTracing = false;
+    if (bTracing)
+        return;
+    bTracing = true;
     PYXTraceWrapper::staticTraceInfo(text, TraceFile, __LINE__);
+    bTracing = false;
 }
 
 void PYXPopupNotification::queueNotification(const QString &text, int showMs, QWidget *parent)

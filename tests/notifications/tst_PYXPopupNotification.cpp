@@ -385,9 +385,21 @@ void tst_PYXPopupNotification::doesWithoutWidgets()
 
 namespace {
 
+/** Shows every trace. */
+struct ShowingTracer : RecordingTracer
+{
+    using RecordingTracer::traceInfo;
+    void traceInfo(const QString &text, const char *, ushort) override
+    {
+        PYXPopupNotification::queueNotification(text);
+    }
+};
+
 int withoutWidgets(int count, char **arguments)
 {
     const QCoreApplication application(count, arguments);
+    ShowingTracer showing;
+    PYXTraceWrapper::addTracer(&showing);
     const QStringList traces = tracesOf([] {
         PYXPopupNotification::makeSureInitialized();
         PYXPopupNotification::queueNotification("nowhere to go");
