@@ -152,12 +152,16 @@ int SHW_Network_Entries::importFrom(const QString &fileName)
     PYXNetworkEntryList shown;
     m_model->fill(shown);
     int added = 0;
+    setIgnoreModified(true); // the page is compared with the store once, not for every entry
     for (const PYXNetworkEntry &entry : qAsConst(found)) {
         if (shown.contains(entry))
             continue;
         m_model->append(entry);
         ++added;
     }
+    setIgnoreModified(false);
+    if (added > 0)
+        sl_modified();
     return added;
 }
 
