@@ -4,6 +4,7 @@
 
 #include "PageTexts.h"
 #include "ProxyTestDialog.h"
+#include "PYXEncryptionManager.h"
 #include "PYXProxyManager.h"
 #include "PYXSettings.h"
 #include "PYXSettingsDialog.h"
@@ -210,6 +211,7 @@ void SHW_Network_Proxy::_show(const ProxyConfiguration &configuration)
     m_credentials->setChecked(configuration.authenticationRequired());
     m_user->setText(configuration.proxyUsername());
     const WipedString password(configuration.proxyPassword());
+    m_password->setToolTip(_passwordToolTip());
     wipe(*m_password);
     m_password->setText(PYXStringHelpers::trueCopy(password.value));
     locallyHandleModifications();
@@ -270,6 +272,12 @@ void SHW_Network_Proxy::_sl_test_clicked()
     delete test;
 }
 
+// Names what stores it: not every provider encrypts.
+QString SHW_Network_Proxy::_passwordToolTip()
+{
+    return tr("Is never shown; stored by: %1").arg(PYXEncryptionManager::staticEncryptionProviderName());
+}
+
 void SHW_Network_Proxy::sl_retranslateUi()
 {
     setHeading(PageTexts::network(), tr("Proxy"));
@@ -284,7 +292,7 @@ void SHW_Network_Proxy::sl_retranslateUi()
     setLabel(m_serverForm, m_port, tr("P&ort:"), tr("The port on which the proxy listens, often 8080"));
     m_credentials->setTitle(tr("The proxy asks for a &user name"));
     setLabel(m_credentialsForm, m_user, tr("Us&er name:"), tr("The name that the proxy asks for"));
-    setLabel(m_credentialsForm, m_password, tr("Pass&word:"), tr("Is stored encrypted, and never shown"));
+    setLabel(m_credentialsForm, m_password, tr("Pass&word:"), _passwordToolTip());
     m_test->setText(tr("Te&st..."));
     m_test->setToolTip(tr("Tries web sites through this proxy; nothing needs to be applied before"));
 }
