@@ -89,7 +89,7 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private Q_SLOTS:
-    void _sl_orderFocus();
+    void _sl_styleChanged();
     void _sl_pageCleanStateChanged();
     void _sl_page_destroyed(QObject *a_page);
     void _sl_SettingsTree_currentItemChanged(QTreeWidgetItem *a_current, QTreeWidgetItem *a_previous);

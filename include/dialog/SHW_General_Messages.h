@@ -31,6 +31,7 @@ private Q_SLOTS:
 private:
     bool _areDefaults(const PYXSettings *settings) const;
     void _list();
+    void _translateDurations();
     int _countOf(Qt::CheckState state) const;
 
     QLabel *m_note;

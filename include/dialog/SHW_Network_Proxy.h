@@ -52,6 +52,7 @@ private:
     void _show(const ProxyConfiguration &configuration);
     const ProxyConfiguration &_stored(const PYXSettings *settings) const;
     void _wipePassword();
+    static QString _passwordToolTip();
 
     /** What was read from a store, since the page is compared with it at every key stroke. */
     struct struStored

@@ -857,8 +857,8 @@
         <translation>Pass&amp;wort:</translation>
     </message>
     <message>
-        <source>Is stored encrypted, and never shown</source>
-        <translation>Wird verschlüsselt gespeichert und nie angezeigt</translation>
+        <source>Is never shown; stored by: %1</source>
+        <translation>Wird nie angezeigt; gespeichert durch: %1</translation>
     </message>
     <message>
         <source>Te&amp;st...</source>

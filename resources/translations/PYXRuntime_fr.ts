@@ -857,8 +857,8 @@
         <translation>&amp;Mot de passe :</translation>
     </message>
     <message>
-        <source>Is stored encrypted, and never shown</source>
-        <translation>Est enregistré chiffré et jamais affiché</translation>
+        <source>Is never shown; stored by: %1</source>
+        <translation>N’est jamais affiché ; enregistré par : %1</translation>
     </message>
     <message>
         <source>Te&amp;st...</source>

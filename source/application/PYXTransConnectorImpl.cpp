@@ -234,8 +234,10 @@ bool PYXTransConnectorImpl::isLocaleSupported(const QString &locale) const
     }
     for (const struModule &entry : m_modules) {
         const PYXTranslatableModuleImpl &module = *entry.module;
+        const QString own = module.getTranslationsDir(); // none yet where there was no application
+        const QString directory = own.isEmpty() ? getTransDirPath() : own;
         if (module.isTranslationOptional() ||
-            TranslationFile::open(module.getModuleBaseName(), locale, module.getTranslationsDir()) != nullptr)
+            TranslationFile::open(module.getModuleBaseName(), locale, directory) != nullptr)
             continue;
         PYXTraceWrapper::staticTraceWarn(noModuleFileText(module, locale), TraceFile, __LINE__);
         return false;

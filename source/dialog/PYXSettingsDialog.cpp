@@ -302,6 +302,8 @@ void PYXSettingsDialog::_fillPages()
     m_bCollectingChanges = true;
     const auto pages = _pagesInTreeOrder();
     for (PYXSettingsHandlerWidget *const page : pages) {
+        if (_itemOf(page) == nullptr)
+            continue;           // another page has destroyed it
         _connectServices(page); // which may have come after the page
         page->initContents();
         page->sl_modified();

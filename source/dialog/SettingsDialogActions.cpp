@@ -35,6 +35,17 @@ QList<QPointer<PYXSettingsHandlerWidget>> guarded(const QList<PYXSettingsHandler
     return result;
 }
 
+/** Deletes the box after it; NoButton where it went before, with the dialog: it may go while it waits. */
+int answerOf(QMessageBox *box)
+{
+    const QPointer<QMessageBox> guard(box);
+    const int answer = box->exec();
+    if (guard.isNull())
+        return QMessageBox::NoButton;
+    delete box;
+    return answer;
+}
+
 } // namespace
 
 /** All false outside a run. */
@@ -151,24 +162,24 @@ bool PYXSettingsDialog::_verifyAll(QString &errors) const
     const auto items = m_form->tree->pageItems();
     for (QTreeWidgetItem *const item : items) {
         QString pageErrors;
+        const PYXSettingsHandlerWidget *const page = m_pages.value(item);
+        const QString title = page != nullptr ? page->title().toHtmlEscaped() : QString();
         if (_verifyItem(item, pageErrors))
             continue;
         bGood = false;
-        errors += QLatin1String("<h6>") + m_pages.value(item)->title().toHtmlEscaped() +
-                  QLatin1String("</h6>\n") + pageErrors + QLatin1Char('\n');
+        errors += QLatin1String("<h6>") + title + QLatin1String("</h6>\n") + pageErrors + QLatin1Char('\n');
     }
     return bGood;
 }
 
 void PYXSettingsDialog::_showErrors(const QString &errors)
 {
-    QMessageBox box(this);
-    box.setIcon(QMessageBox::Warning);
-    box.setWindowTitle(tr("Errors in Settings"));
-    box.setText(QLatin1String("<h4>") + tr("There are errors in the settings") + QLatin1String("</h4>"));
-    box.setInformativeText(errors);
-    box.setStandardButtons(QMessageBox::Ok);
-    box.exec();
+    const QString text =
+        QLatin1String("<h4>") + tr("There are errors in the settings") + QLatin1String("</h4>");
+    auto *const box =
+        new QMessageBox(QMessageBox::Warning, tr("Errors in Settings"), text, QMessageBox::Ok, this);
+    box->setInformativeText(errors);
+    answerOf(box);
 }
 
 void PYXSettingsDialog::_sl_ButtonBoxPage_clicked(QAbstractButton *a_button)
@@ -229,8 +240,9 @@ void PYXSettingsDialog::_applyCurrentPage()
         _showErrors(errors);
         return;
     }
+    const QPointer<PYXSettingsDialog> self(this);
     const QPointer<PYXSettingsHandlerWidget> guard(page);
-    if (!_applyChanges(page))
+    if (!_applyChanges(page) || self.isNull())
         return;
     _syncStores();
     if (!guard.isNull())
@@ -246,9 +258,12 @@ bool PYXSettingsDialog::_applyAll()
     }
     m_bCollectingChanges = true;
     bool bGood = true;
+    const QPointer<PYXSettingsDialog> self(this);
     const auto pages = guarded(_pagesInTreeOrder());
     for (const auto &page : pages) {
         bGood = page.isNull() || _applyChanges(page);
+        if (self.isNull())
+            return false;
         if (!bGood)
             break;
     }
@@ -258,15 +273,18 @@ bool PYXSettingsDialog::_applyAll()
         return false;
     _syncStores();
     Q_EMIT si_settingsApplied();
-    return true;
+    return !self.isNull();
 }
 
 bool PYXSettingsDialog::_applyChanges(PYXSettingsHandlerWidget *page)
 {
+    const QPointer<PYXSettingsHandlerWidget> guard(page);
     if (!page->applyChanges())
         return false;
-    page->sl_modified();
-    Q_EMIT si_settingsPageApplied(page);
+    if (!guard.isNull())
+        page->sl_modified();
+    if (!guard.isNull())
+        Q_EMIT si_settingsPageApplied(page);
     return true;
 }
 
@@ -289,6 +307,8 @@ void PYXSettingsDialog::_refill(const QList<PYXSettingsHandlerWidget *> &pages, 
             continue;
         page->setIgnoreModified(true);
         (page->*refill)();
+        if (page.isNull())
+            continue;
         page->setIgnoreModified(false);
         page->sl_modified();
     }
@@ -316,10 +336,10 @@ bool PYXSettingsDialog::_discard()
         return true;
     const QString question = tr("The settings have been modified.") + QLatin1Char('\n') +
                              tr("Do you really want to discard the changes?");
-    const QPointer<PYXSettingsDialog> self(this);
-    const auto answer = QMessageBox::question(this, tr("Settings Modified"), question,
-                                              QMessageBox::Yes | QMessageBox::No, QMessageBox::No);
-    if (self.isNull() || answer != QMessageBox::Yes)
+    auto *const box = new QMessageBox(QMessageBox::Question, tr("Settings Modified"), question,
+                                      QMessageBox::Yes | QMessageBox::No, this);
+    box->setDefaultButton(QMessageBox::No);
+    if (answerOf(box) != QMessageBox::Yes)
         return false;
     const auto pages = guarded(_pagesInTreeOrder());
     for (const auto &page : pages) {
@@ -344,21 +364,26 @@ void PYXSettingsDialog::closeEvent(QCloseEvent *event)
 void PYXSettingsDialog::showEvent(QShowEvent *event)
 {
     QDialog::showEvent(event);
-    _sl_orderFocus();
+    m_form->orderFocus();
     m_form->tree->setFocus(Qt::OtherFocusReason);
 }
 
 void PYXSettingsDialog::changeEvent(QEvent *event)
 {
     QDialog::changeEvent(event);
-    // Button boxes lay themselves out anew for another style. Queued: theirs may come after this event.
+    // Button boxes lay themselves out anew for another style, and show all buttons. Queued: theirs may come
+    // after this event.
     if (event->type() == QEvent::StyleChange)
-        QMetaObject::invokeMethod(this, &PYXSettingsDialog::_sl_orderFocus, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(this, &PYXSettingsDialog::_sl_styleChanged, Qt::QueuedConnection);
 }
 
-void PYXSettingsDialog::_sl_orderFocus()
+void PYXSettingsDialog::_sl_styleChanged()
 {
     m_form->orderFocus();
+    if (m_settings == nullptr)
+        return;
+    _showConfigurableButtons();
+    _sl_pageCleanStateChanged();
 }
 
 void PYXSettingsDialog::keyPressEvent(QKeyEvent *event)

@@ -136,6 +136,17 @@ public:
     FieldPage *const d = new FieldPage("", "D");
 };
 
+class DyingPage : public FieldPage
+{
+public:
+    using FieldPage::FieldPage;
+    bool applyChanges() override
+    {
+        delete this;
+        return true;
+    }
+};
+
 /** Answers the next message box from inside its loop, and keeps what it said. */
 struct Answer : QObject
 {
@@ -178,6 +189,8 @@ private slots:
     void searching();
     void helpAndLanguage();
     void pagesComeAndGoWhileRunning();
+    void theDialogGoesWhileItAsks_data();
+    void theDialogGoesWhileItAsks();
     void everyControlHasANameAndItsTurn();
 };
 
@@ -269,6 +282,13 @@ void tst_PYXSettingsDialog::buttonsFollowTheState()
         [&] {
             for (const auto &[page, value] : pages)
                 page->field->setText(value);
+            QTEST(f.usableButtons(), "usable");
+            QEvent styleChange(QEvent::StyleChange); // button boxes show all their buttons
+            auto widgets = f.dialog.findChildren<QWidget *>();
+            widgets += &f.dialog;
+            for (QWidget *const widget : qAsConst(widgets))
+                QCoreApplication::sendEvent(widget, &styleChange);
+            QCoreApplication::sendPostedEvents(&f.dialog);
             QTEST(f.usableButtons(), "usable");
         },
         f.a);
@@ -567,6 +587,7 @@ void tst_PYXSettingsDialog::pagesComeAndGoWhileRunning()
                 if (page == f.c)
                     delete f.a;
             });
+            QVERIFY(f.dialog.registerSettingsHandler(new DyingPage("X", "F")));
             f.b->field->setText("new");
             f.press("Dialog", Box::Apply);
             QCOMPARE(f.treeText(), QString("D Y(C) Z(B)"));
@@ -581,6 +602,39 @@ void tst_PYXSettingsDialog::pagesComeAndGoWhileRunning()
         delete running;
     });
     QCOMPARE(dialog->exec(f.settings, f.defaults), int(QDialog::Rejected));
+}
+
+void tst_PYXSettingsDialog::theDialogGoesWhileItAsks_data()
+{
+    QTest::addColumn<QString>("title");
+    for (const QString title : {"Errors in Settings", "Settings Modified", ""})
+        QTest::newRow(title.isEmpty() ? "after applying" : qPrintable(title)) << title;
+}
+
+void tst_PYXSettingsDialog::theDialogGoesWhileItAsks()
+{
+    QFETCH(QString, title);
+    Fixture f;
+    const QPointer<PYXSettingsDialog> dialog = new PYXSettingsDialog;
+    auto *const page = new FieldPage("", "E");
+    dialog->registerSettingsHandler(page);
+    connect(dialog, qOverload<>(&PYXSettingsDialog::si_settingsApplied), [&] { delete dialog; });
+    if (title.startsWith("Errors"))
+        page->errors += "first";
+    QString found;
+    QTimer::singleShot(0, dialog, [&] {
+        page->field->setText("new");
+        QTimer::singleShot(0, dialog, [&] {
+            if (const QWidget *const box = QApplication::activeModalWidget())
+                found = box->windowTitle();
+            delete dialog;
+        });
+        auto *const buttons = dialog->findChild<Box *>("m_ButtonBoxDialog");
+        buttons->button(title == "Settings Modified" ? Box::Discard : Box::Ok)->click();
+    });
+    QCOMPARE(dialog->exec(f.settings, f.defaults), int(QDialog::Rejected));
+    QVERIFY(dialog.isNull());
+    QCOMPARE(found, title);
 }
 
 void tst_PYXSettingsDialog::everyControlHasANameAndItsTurn()

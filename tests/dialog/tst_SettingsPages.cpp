@@ -99,6 +99,16 @@ Control *control(const QWidget &page, const QString &name)
     return nullptr;
 }
 
+class Shouter : public QTranslator
+{
+public:
+    bool isEmpty() const override { return false; }
+    QString translate(const char *, const char *text, const char *, int) const override
+    {
+        return QString(text).toUpper();
+    }
+};
+
 int rowWith(const QAbstractItemView &view, const QString &text)
 {
     const auto *const model = view.model();
@@ -235,7 +245,7 @@ void tst_SettingsPages::directories()
     f.run([&] {
         auto *const scripts = control<QLineEdit>(*page, "Scripts");
         auto *const recordings = control<QLineEdit>(*page, "Recordings");
-        scripts->setText("relative");
+        scripts->setText(" " + f.home.path("scripts")); // is stored as it is
         recordings->setText(file.fileName());
         QCOMPARE(errorsOf(*page).size(), 2);
         scripts->setText(f.home.path("scripts"));
@@ -276,9 +286,11 @@ void tst_SettingsPages::proxyIsStoredEncrypted()
     QCOMPARE(f.tracer.calls.filter("topsecret"), QStringList());
     f.run([&] {
         QVERIFY(!f.isModified());
-        QCOMPARE(password->text(), QString("topsecret"));
+        const QString buffer = password->text(); // shared
+        QCOMPARE(buffer, QString("topsecret"));
         f.button(QDialogButtonBox::RestoreDefaults)->click();
         QVERIFY(f.isModified() && password->text().isEmpty());
+        QVERIFY(buffer != QString("topsecret"));
     });
 }
 
@@ -358,6 +370,11 @@ void tst_SettingsPages::proxyTest()
     QVERIFY2(results.at(1).contains("Bad Gateway"), qPrintable(results.at(1)));
     QCOMPARE(results.at(2), QString("This is no web address."));
     QCOMPARE(f.settings.stringListValue("::PYXRuntime::/ProxyConfigurationTestSites").size(), 2);
+    f.run([&] {
+        QTimer::singleShot(0, &f.dialog, [&] { delete page; });
+        control<QPushButton>(*page, "Test...")->click();
+        QVERIFY(f.dialog.activePage() == nullptr);
+    });
 }
 
 void tst_SettingsPages::networkEntries()
@@ -411,6 +428,14 @@ void tst_SettingsPages::suppressedMessages()
         f.apply();
         QVERIFY(!f.isModified() && PYXNotification::willShowMessage("Test", "one"));
         QCOMPARE(list->topLevelItemCount(), 2);
+        {
+            Shouter translator;
+            QCoreApplication::installTranslator(&translator);
+            page->sl_retranslateUi();
+            QCOMPARE(list->topLevelItem(1)->text(2), QString("ALWAYS"));
+        }
+        page->sl_retranslateUi();
+        QVERIFY(!f.isModified());
         f.button(QDialogButtonBox::RestoreDefaults)->click();
         QVERIFY(f.isModified() && !f.button(QDialogButtonBox::RestoreDefaults)->isEnabled());
         f.button(QDialogButtonBox::Reset)->click();

@@ -16,7 +16,7 @@ namespace PYXRuntime {
 namespace {
 
 enum eColumn { ekColumn_Title, ekColumn_Text, ekColumn_Duration };
-enum eRole { ekRole_FirstKey = Qt::UserRole, ekRole_SecondKey };
+enum eRole { ekRole_FirstKey = Qt::UserRole, ekRole_SecondKey, ekRole_IsPersistent };
 
 } // namespace
 
@@ -86,14 +86,25 @@ void SHW_General_Messages::_list()
     for (const auto &message : messages) {
         const QString title = message.title.isEmpty() ? message.firstKey : message.title;
         const QString text = message.text.isEmpty() ? message.secondKey : message.text;
-        auto *const item = new QTreeWidgetItem(
-            m_messages, {title, text, message.bPersistent ? tr("always") : tr("this time")});
+        auto *const item = new QTreeWidgetItem(m_messages, {title, text});
         item->setCheckState(ekColumn_Title, Qt::Checked);
         item->setToolTip(ekColumn_Text, text);
         item->setData(ekColumn_Title, ekRole_FirstKey, message.firstKey);
         item->setData(ekColumn_Title, ekRole_SecondKey, message.secondKey);
+        item->setData(ekColumn_Title, ekRole_IsPersistent, message.bPersistent);
     }
+    _translateDurations();
     locallyHandleModifications();
+}
+
+void SHW_General_Messages::_translateDurations()
+{
+    const QSignalBlocker blocker(m_messages);
+    for (int i = 0; i < m_messages->topLevelItemCount(); ++i) {
+        QTreeWidgetItem *const item = m_messages->topLevelItem(i);
+        const bool bPersistent = item->data(ekColumn_Title, ekRole_IsPersistent).toBool();
+        item->setText(ekColumn_Duration, bPersistent ? tr("always") : tr("this time"));
+    }
 }
 
 int SHW_General_Messages::_countOf(Qt::CheckState state) const
@@ -125,6 +136,7 @@ void SHW_General_Messages::sl_retranslateUi()
     m_note->setText(tr("&These messages are not shown. Clear the mark of those that you want to see again."));
     m_messages->setHeaderLabels({tr("Title"), tr("Message"), tr("Hidden")});
     m_messages->setAccessibleName(tr("Messages that are not shown"));
+    _translateDurations();
     m_showAll->setText(tr("Show &All Again"));
     m_showAll->setToolTip(tr("Clears all marks; Apply shows the messages again"));
 }

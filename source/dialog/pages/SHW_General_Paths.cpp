@@ -87,7 +87,7 @@ bool SHW_General_Paths::verifyContents(QStringList &errors)
 {
     const int before = errors.size();
     for (const struDirectory &directory : m_directories) {
-        const QString path = directory.edit->text().trimmed();
+        const QString path = directory.edit->text(); // as it will be stored
         const QString name = withoutDecoration(directory.label->text()).toHtmlEscaped();
         if (path.isEmpty())
             continue; // nothing is chosen

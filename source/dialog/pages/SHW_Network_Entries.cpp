@@ -139,9 +139,12 @@ void SHW_Network_Entries::locallyHandleModifications()
 
 int SHW_Network_Entries::importFrom(const QString &fileName)
 {
+    // Opening what is no file, a pipe, may wait for ever.
+    if (!QFileInfo(fileName).isFile() || !QFileInfo(fileName).isReadable())
+        return -1;
     QSettings file(fileName, PYXXmlSettings::format());
     PYXNetworkEntryList found(m_keys);
-    if (!QFileInfo(fileName).isReadable() || file.status() != QSettings::NoError)
+    if (file.status() != QSettings::NoError)
         return -1;
     found.restore(file);
     if (found.isEmpty())
@@ -149,12 +152,16 @@ int SHW_Network_Entries::importFrom(const QString &fileName)
     PYXNetworkEntryList shown;
     m_model->fill(shown);
     int added = 0;
+    setIgnoreModified(true); // the page is compared with the store once, not for every entry
     for (const PYXNetworkEntry &entry : qAsConst(found)) {
         if (shown.contains(entry))
             continue;
         m_model->append(entry);
         ++added;
     }
+    setIgnoreModified(false);
+    if (added > 0)
+        sl_modified();
     return added;
 }
 

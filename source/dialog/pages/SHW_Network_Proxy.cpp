@@ -4,11 +4,13 @@
 
 #include "PageTexts.h"
 #include "ProxyTestDialog.h"
+#include "PYXEncryptionManager.h"
 #include "PYXProxyManager.h"
 #include "PYXSettings.h"
 #include "PYXSettingsDialog.h"
 #include "WipedValue.h"
 
+#include <QtCore/QPointer>
 #include <QtWidgets/QButtonGroup>
 #include <QtWidgets/QComboBox>
 #include <QtWidgets/QFormLayout>
@@ -45,6 +47,13 @@ void setLabel(const QFormLayout *form, QWidget *field, const QString &text, cons
     if (auto *const label = qobject_cast<QLabel *>(form->labelForField(field)))
         label->setText(text);
     field->setToolTip(toolTip);
+}
+
+// The text shares the edit's own buffer, which would be freed as it is.
+void wipe(const QLineEdit &edit)
+{
+    QString secret = edit.text();
+    PYXStringHelpers::safeOverwriteAndClear(secret);
 }
 
 bool isSame(const ProxyConfiguration &left, const ProxyConfiguration &right)
@@ -202,6 +211,8 @@ void SHW_Network_Proxy::_show(const ProxyConfiguration &configuration)
     m_credentials->setChecked(configuration.authenticationRequired());
     m_user->setText(configuration.proxyUsername());
     const WipedString password(configuration.proxyPassword());
+    m_password->setToolTip(_passwordToolTip());
+    wipe(*m_password);
     m_password->setText(PYXStringHelpers::trueCopy(password.value));
     locallyHandleModifications();
 }
@@ -237,8 +248,7 @@ void SHW_Network_Proxy::_sl_dialog_finished()
 void SHW_Network_Proxy::_wipePassword()
 {
     setIgnoreModified(true);
-    QString password = m_password->text(); // shares the edit's own buffer
-    PYXStringHelpers::safeOverwriteAndClear(password);
+    wipe(*m_password);
     m_password->clear();
     setIgnoreModified(false);
     for (struStored *const stored : {&m_storedUser, &m_storedDefault}) {
@@ -252,10 +262,20 @@ void SHW_Network_Proxy::_sl_test_clicked()
     QStringList sites = settings() != nullptr ? settings()->stringListValue(TestSitesKey) : QStringList();
     if (sites.isEmpty())
         sites = usualTestSites();
-    ProxyTestDialog test(_shown(), sites, this);
-    test.exec();
-    if (settings() != nullptr && test.sites() != sites)
-        settings()->setValue(TestSitesKey, test.sites());
+    // The page may go while it is shown, and this with it.
+    const QPointer<ProxyTestDialog> test = new ProxyTestDialog(_shown(), sites, this);
+    test->exec();
+    if (test.isNull())
+        return;
+    if (settings() != nullptr && test->sites() != sites)
+        settings()->setValue(TestSitesKey, test->sites());
+    delete test;
+}
+
+// Names what stores it: not every provider encrypts.
+QString SHW_Network_Proxy::_passwordToolTip()
+{
+    return tr("Is never shown; stored by: %1").arg(PYXEncryptionManager::staticEncryptionProviderName());
 }
 
 void SHW_Network_Proxy::sl_retranslateUi()
@@ -272,7 +292,7 @@ void SHW_Network_Proxy::sl_retranslateUi()
     setLabel(m_serverForm, m_port, tr("P&ort:"), tr("The port on which the proxy listens, often 8080"));
     m_credentials->setTitle(tr("The proxy asks for a &user name"));
     setLabel(m_credentialsForm, m_user, tr("Us&er name:"), tr("The name that the proxy asks for"));
-    setLabel(m_credentialsForm, m_password, tr("Pass&word:"), tr("Is stored encrypted, and never shown"));
+    setLabel(m_credentialsForm, m_password, tr("Pass&word:"), _passwordToolTip());
     m_test->setText(tr("Te&st..."));
     m_test->setToolTip(tr("Tries web sites through this proxy; nothing needs to be applied before"));
 }
