@@ -65,11 +65,11 @@ void adapt(PYXRuntime::PYXSettingsHandlerWidget *page)
 DeveloperDocks::DeveloperDocks(QMainWindow *window, MainActions *actions)
     : QObject(window)
     , m_window(window)
-    , m_scopeDock(_pageDock(QStringLiteral("scopeDock"), tr("Runtime Scopes"),
-                            new PYXRuntime::SHW_Debug_RuntimeScopes))
-    , m_brokerDock(_pageDock(QStringLiteral("brokerDock"), tr("Broker"), new PYXRuntime::SHW_Debug_Broker))
+    , m_scopeDock(_pageDock(QStringLiteral("scopeDock"), new PYXRuntime::SHW_Debug_RuntimeScopes))
+    , m_brokerDock(_pageDock(QStringLiteral("brokerDock"), new PYXRuntime::SHW_Debug_Broker))
     , m_poolDock(new PoolDock(window))
 {
+    retranslate();
     setShown(false); // before they are part of the window, which would keep room for them
     window->addDockWidget(Qt::RightDockWidgetArea, m_scopeDock);
     window->tabifyDockWidget(m_scopeDock, m_brokerDock);
@@ -79,10 +79,9 @@ DeveloperDocks::DeveloperDocks(QMainWindow *window, MainActions *actions)
     actions->addDock(m_poolDock, PYXStandardIcons::ekIcon_Storage_Local);
 }
 
-QDockWidget *DeveloperDocks::_pageDock(const QString &name, const QString &title,
-                                       PYXRuntime::PYXSettingsHandlerWidget *page)
+QDockWidget *DeveloperDocks::_pageDock(const QString &name, PYXRuntime::PYXSettingsHandlerWidget *page)
 {
-    auto *const dock = new QDockWidget(title, m_window);
+    auto *const dock = new QDockWidget(m_window);
     dock->setObjectName(name);
     adapt(page);
     dock->setWidget(new PageHolder(page));
@@ -92,6 +91,12 @@ QDockWidget *DeveloperDocks::_pageDock(const QString &name, const QString &title
             page->initContents();
     });
     return dock;
+}
+
+void DeveloperDocks::retranslate()
+{
+    m_scopeDock->setWindowTitle(tr("Runtime Scopes"));
+    m_brokerDock->setWindowTitle(tr("Broker"));
 }
 
 void DeveloperDocks::setShown(bool bShown)
