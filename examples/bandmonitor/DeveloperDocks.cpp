@@ -12,7 +12,6 @@
 #include <SHW_Debug_RuntimeScopes.h>
 
 #include <QtWidgets/QAction>
-#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QDockWidget>
 #include <QtWidgets/QMainWindow>
 #include <QtWidgets/QTableView>
@@ -24,8 +23,6 @@ namespace BandMonitor {
 namespace {
 
 constexpr int UsualWidth = 64; // in characters
-// Its darker shade is the frame of check boxes, which has to be seen on dark ground as well.
-constexpr QRgb FrameColour = qRgb(0x90, 0x90, 0x90);
 
 /** As wide as is good for a page, which itself would do with less. */
 class PageHolder final : public QWidget
@@ -48,16 +45,9 @@ void adapt(PYXRuntime::PYXSettingsHandlerWidget *page)
 {
     const QFont font = page->font();
     page->setFont(smallerFont(font));
-    QPalette palette;
-    palette.setColor(QPalette::Window, QColor(FrameColour));
-    const auto boxes = page->findChildren<QCheckBox *>();
-    for (QCheckBox *const box : boxes)
-        box->setPalette(palette);
     const auto tables = page->findChildren<QTableView *>();
-    for (QTableView *const table : tables) {
+    for (QTableView *const table : tables)
         makeCompact(table, font);
-        table->setPalette(palette);
-    }
 }
 
 } // namespace
