@@ -16,17 +16,21 @@ set(PYX_TRANSLATIONS_OUTPUT_DIR "${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/translations"
 add_custom_target(translations ALL)
 add_custom_target(translations_update)
 
-# Translations of one library or program: <stem>_<locale>.ts beside the calling file, one per locale.
-#   pyx_add_translations(stem LOCALES locale... SOURCES directory...)
+# Translations of one library or program: <stem>_<locale>.ts beside the calling file, one per locale, or in a
+# directory there. The .qm files are called after the name, where that is another one.
+#   pyx_add_translations(stem [NAME name] [DIRECTORY directory] LOCALES locale... SOURCES directory...)
 # The target translations makes the .qm files, translations_update takes the texts of the sources into the .ts
 # files. English has its plural forms only.
 function(pyx_add_translations stem)
-    cmake_parse_arguments(PARSE_ARGV 1 ARG "" "" "LOCALES;SOURCES")
+    cmake_parse_arguments(PARSE_ARGV 1 ARG "" "NAME;DIRECTORY" "LOCALES;SOURCES")
+    if(NOT ARG_NAME)
+        set(ARG_NAME "${stem}")
+    endif()
     set(qm_files)
     set(updates)
     foreach(locale IN LISTS ARG_LOCALES)
-        set(ts "${CMAKE_CURRENT_SOURCE_DIR}/${stem}_${locale}.ts")
-        set(qm "${PYX_TRANSLATIONS_OUTPUT_DIR}/${stem}_${locale}.qm")
+        set(ts "${CMAKE_CURRENT_SOURCE_DIR}/${ARG_DIRECTORY}/${stem}_${locale}.ts")
+        set(qm "${PYX_TRANSLATIONS_OUTPUT_DIR}/${ARG_NAME}_${locale}.qm")
         add_custom_command(OUTPUT "${qm}"
             COMMAND "${CMAKE_COMMAND}" -E make_directory "${PYX_TRANSLATIONS_OUTPUT_DIR}"
             COMMAND "${PYX_LRELEASE}" -silent -nounfinished "${ts}" -qm "${qm}"

@@ -41,7 +41,7 @@ def sources(lupdate, directories, english):
         plurals = ["-pluralonly"] if english else []
         run = subprocess.run([lupdate, "-locations", "none", *plurals, *directories, "-ts", str(fresh)],
                              capture_output=True, text=True, check=True)
-        complaints = [line for line in (run.stdout + run.stderr).splitlines() if "lacks Q_OBJECT" in line]
+        complaints = [line for line in (run.stdout + run.stderr).splitlines() if "lacks Q_OBJECT" in line or "without context" in line]
         return messages(fresh), complaints
 
 

@@ -15,10 +15,10 @@ using namespace PYXRuntime;
 namespace BandMonitor {
 namespace {
 
-QString tr(const char *text)
+struct AboutBoxTexts
 {
-    return QCoreApplication::translate("BandMonitor::AboutBox", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(BandMonitor::AboutBox)
+};
 
 } // namespace
 
@@ -30,14 +30,15 @@ void showAboutBox(QWidget *parent)
         QDir::toNativeSeparators(PYXSettings(PYXSettings::eUserApplicationSettings).fileName());
 
     auto *const box = new QMessageBox(
-        QMessageBox::NoIcon, tr("About %1").arg(QCoreApplication::applicationName()),
-        tr("Shows the signals in a recording, or in a band of its own."), QMessageBox::Ok, parent);
+        QMessageBox::NoIcon, AboutBoxTexts::tr("About %1").arg(QCoreApplication::applicationName()),
+        AboutBoxTexts::tr("Shows the signals in a recording, or in a band of its own."), QMessageBox::Ok,
+        parent);
     box->setObjectName(QStringLiteral("aboutBox"));
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    box->setInformativeText(
-        (bPortable ? tr("Settings, portable:\n%1\n\nQt %2") : tr("Settings:\n%1\n\nQt %2"))
-            .arg(settings, QLatin1String(qVersion())));
+    box->setInformativeText((bPortable ? AboutBoxTexts::tr("Settings, portable:\n%1\n\nQt %2")
+                                       : AboutBoxTexts::tr("Settings:\n%1\n\nQt %2"))
+                                .arg(settings, QLatin1String(qVersion())));
     box->open();
 }
 

@@ -14,6 +14,11 @@ namespace {
 // So much of the highlight is behind the chosen entry of a menu: its icon has colours of its own.
 constexpr double MenuHighlight = 0.25;
 
+// Styles frame input fields in a darker shade of the window's colour, which has to be seen on dark ground.
+constexpr QRgb FrameColour = qRgb(0x82, 0x84, 0x88);
+constexpr const char *FramedClasses[] = {"QCheckBox",        "QRadioButton", "QLineEdit",
+                                         "QAbstractSpinBox", "QTableView",   "QTreeView"};
+
 /** Light text on dark ground, for rooms with little light. */
 QPalette darkPalette()
 {
@@ -44,6 +49,13 @@ QPalette menuPalette(QPalette palette)
     return palette;
 }
 
+QPalette framedPalette(QPalette palette)
+{
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive})
+        palette.setColor(group, QPalette::Window, QColor(FrameColour));
+    return palette;
+}
+
 } // namespace
 
 void setDarkColours(bool bDark)
@@ -51,6 +63,8 @@ void setDarkColours(bool bDark)
     const QPalette palette = bDark ? darkPalette() : QApplication::style()->standardPalette();
     QApplication::setPalette(palette);
     QApplication::setPalette(menuPalette(palette), "QMenu");
+    for (const char *const name : FramedClasses)
+        QApplication::setPalette(bDark ? framedPalette(palette) : palette, name);
 }
 
 } // namespace BandMonitor

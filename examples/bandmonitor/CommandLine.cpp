@@ -12,35 +12,44 @@ const QLatin1String HeadlessOption("headless");
 const QLatin1String ScreenshotOption("screenshot");
 const QLatin1String SizeOption("size");
 const QLatin1String DarkOption("dark");
+const QLatin1String LanguageOption("language");
 const QLatin1String PortableOption("portable");
 const QLatin1String NewInstanceOption("new-instance");
 
-QString tr(const char *text)
+struct CommandLineTexts
 {
-    return QCoreApplication::translate("BandMonitor::CommandLine", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(BandMonitor::CommandLine)
+};
 
 } // namespace
 
 CommandLine::CommandLine()
 {
     m_parser.setApplicationDescription(
-        tr("Shows the signals in a recording, or in a band of its own.\n\n"
-           "++expert and ++debug switch modes on, --expert and --debug switch them off."));
+        CommandLineTexts::tr("Shows the signals in a recording, or in a band of its own.\n\n"
+                             "++expert and ++debug switch modes on, --expert and --debug switch them off."));
     m_parser.addHelpOption();
     m_parser.addVersionOption();
-    m_parser.addPositionalArgument(QStringLiteral("recording"),
-                                   tr("WAV file: one channel of real samples, or two of I/Q."),
-                                   QStringLiteral("[RECORDING]"));
-    m_parser.addOption({HeadlessOption, tr("Print the detected signals instead of showing a window.")});
+    m_parser.addPositionalArgument(
+        QStringLiteral("recording"),
+        CommandLineTexts::tr("WAV file: one channel of real samples, or two of I/Q."),
+        QStringLiteral("[RECORDING]"));
     m_parser.addOption(
-        {ScreenshotOption, tr("Process everything, save a picture of the window, and end."), tr("FILE")});
-    m_parser.addOption({SizeOption, tr("Size of the window."), tr("WIDTHxHEIGHT")});
-    m_parser.addOption({DarkOption, tr("Use dark colours.")});
+        {HeadlessOption, CommandLineTexts::tr("Print the detected signals instead of showing a window.")});
+    m_parser.addOption({ScreenshotOption,
+                        CommandLineTexts::tr("Process everything, save a picture of the window, and end."),
+                        CommandLineTexts::tr("FILE")});
     m_parser.addOption(
-        {PortableOption, tr("Keep settings beside the program, not in the user's directories.")});
+        {SizeOption, CommandLineTexts::tr("Size of the window."), CommandLineTexts::tr("WIDTHxHEIGHT")});
+    m_parser.addOption({DarkOption, CommandLineTexts::tr("Use dark colours.")});
+    m_parser.addOption({LanguageOption, CommandLineTexts::tr("Language of the texts: en, de or fr."),
+                        CommandLineTexts::tr("LANGUAGE")});
     m_parser.addOption(
-        {NewInstanceOption, tr("Open a window of its own, even if one is open that could show this.")});
+        {PortableOption,
+         CommandLineTexts::tr("Keep settings beside the program, not in the user's directories.")});
+    m_parser.addOption(
+        {NewInstanceOption,
+         CommandLineTexts::tr("Open a window of its own, even if one is open that could show this.")});
 }
 
 bool CommandLine::isDark() const
@@ -67,6 +76,11 @@ QSize CommandLine::size() const
 {
     const QStringList numbers = m_parser.value(SizeOption).split(QLatin1Char('x'));
     return numbers.size() == 2 ? QSize(numbers.at(0).toInt(), numbers.at(1).toInt()) : QSize();
+}
+
+QString CommandLine::locale() const
+{
+    return m_parser.value(LanguageOption);
 }
 
 QString CommandLine::recordingOf(const QStringList &arguments, const QString &workingDirectory)

@@ -26,6 +26,8 @@ public:
     QString screenshotPath() const;
     /** Invalid: the usual one. */
     QSize size() const;
+    /** Of the texts; empty: the stored one. */
+    QString locale() const;
     /** Empty: the own band. */
     QString recording() const { return m_parser.positionalArguments().value(0); }
 

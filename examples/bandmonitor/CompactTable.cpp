@@ -35,6 +35,12 @@ QTableView *createCompactTable(QAbstractItemModel *model, const QFont &font)
     return table;
 }
 
+void retranslate(QTableView *table)
+{
+    table->horizontalHeader()->headerDataChanged(Qt::Horizontal, 0, table->model()->columnCount() - 1);
+    table->viewport()->update();
+}
+
 QWidget *withButtons(QTableView *table, const QList<QPushButton *> &buttons)
 {
     auto *const row = new QHBoxLayout;

@@ -19,4 +19,7 @@ void makeCompact(QTableView *table, const QFont &font);
 /** The table with its buttons in a row below. */
 QWidget *withButtons(QTableView *table, const QList<QPushButton *> &buttons);
 
+/** Lets the table ask for headings and texts again, after a change of the language. */
+void retranslate(QTableView *table);
+
 } // namespace BandMonitor

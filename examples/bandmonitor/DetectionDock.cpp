@@ -5,6 +5,7 @@
 #include "CompactTable.h"
 #include "DetectionModel.h"
 
+#include <QtCore/QEvent>
 #include <QtCore/QSortFilterProxyModel>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QTableView>
@@ -18,13 +19,27 @@ DetectionDock::DetectionDock(QWidget *parent)
     , m_table(new QTableView(this))
 {
     setObjectName(QStringLiteral("detectionDock"));
-    setWindowTitle(tr("Signals"));
     m_sortedModel->setSourceModel(m_model);
     m_sortedModel->setSortRole(DetectionModel::SortRole);
     _createTable();
     setWidget(m_table);
+    _retranslate();
     connect(m_table->selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &DetectionDock::_sl_table_selectionChanged);
+}
+
+void DetectionDock::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        _retranslate();
+    QDockWidget::changeEvent(event);
+}
+
+void DetectionDock::_retranslate()
+{
+    setWindowTitle(tr("Signals"));
+    m_table->setAccessibleName(tr("Detected signals"));
+    retranslate(m_table);
 }
 
 void DetectionDock::_createTable()

@@ -31,7 +31,11 @@ Q_SIGNALS:
     /** The user has chosen a signal; 0 for none. */
     void si_selected(int a_id);
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
+    void _retranslate();
     void _createTable();
     void _sl_table_selectionChanged();
 

@@ -57,15 +57,19 @@ struDetectorParameters struDetectorParameters::fromStatusHash(const PYXStatusHas
     return parameters;
 }
 
-struDetectorParameters struDetectorParameters::restored()
+struDetectorParameters struDetectorParameters::restored(const PYXSettings &settings)
 {
-    const PYXSettings settings(PYXSettings::eUserApplicationSettings);
     return fromStatusHash(settings.statusHashValue(SettingsKey));
 }
 
-void struDetectorParameters::save() const
+struDetectorParameters struDetectorParameters::restored()
 {
-    PYXSettings(PYXSettings::eUserApplicationSettings).setValue(SettingsKey, toStatusHash());
+    return restored(PYXSettings(PYXSettings::eUserApplicationSettings));
+}
+
+void struDetectorParameters::save(PYXSettings &settings) const
+{
+    settings.setValue(SettingsKey, toStatusHash());
 }
 
 } // namespace BandMonitor

@@ -4,6 +4,10 @@
 
 #include <PYXStatusHash.h>
 
+namespace PYXRuntime {
+class PYXSettings;
+} // namespace PYXRuntime
+
 namespace BandMonitor {
 
 /** What the user can set of the detector. Numbers out of range are replaced by the nearest that is not. */
@@ -24,9 +28,10 @@ struct struDetectorParameters
     /** What the hash does not have is as it is by default. */
     static struDetectorParameters fromStatusHash(const PYXRuntime::PYXStatusHash &hash);
 
-    /** As the user's settings have them. */
+    /** As the settings have them; without an argument, those of the user. */
+    static struDetectorParameters restored(const PYXRuntime::PYXSettings &settings);
     static struDetectorParameters restored();
-    void save() const;
+    void save(PYXRuntime::PYXSettings &settings) const;
 };
 
 } // namespace BandMonitor

@@ -12,7 +12,6 @@
 #include <SHW_Debug_RuntimeScopes.h>
 
 #include <QtWidgets/QAction>
-#include <QtWidgets/QCheckBox>
 #include <QtWidgets/QDockWidget>
 #include <QtWidgets/QMainWindow>
 #include <QtWidgets/QTableView>
@@ -24,8 +23,6 @@ namespace BandMonitor {
 namespace {
 
 constexpr int UsualWidth = 64; // in characters
-// Its darker shade is the frame of check boxes, which has to be seen on dark ground as well.
-constexpr QRgb FrameColour = qRgb(0x90, 0x90, 0x90);
 
 /** As wide as is good for a page, which itself would do with less. */
 class PageHolder final : public QWidget
@@ -48,16 +45,9 @@ void adapt(PYXRuntime::PYXSettingsHandlerWidget *page)
 {
     const QFont font = page->font();
     page->setFont(smallerFont(font));
-    QPalette palette;
-    palette.setColor(QPalette::Window, QColor(FrameColour));
-    const auto boxes = page->findChildren<QCheckBox *>();
-    for (QCheckBox *const box : boxes)
-        box->setPalette(palette);
     const auto tables = page->findChildren<QTableView *>();
-    for (QTableView *const table : tables) {
+    for (QTableView *const table : tables)
         makeCompact(table, font);
-        table->setPalette(palette);
-    }
 }
 
 } // namespace
@@ -65,11 +55,11 @@ void adapt(PYXRuntime::PYXSettingsHandlerWidget *page)
 DeveloperDocks::DeveloperDocks(QMainWindow *window, MainActions *actions)
     : QObject(window)
     , m_window(window)
-    , m_scopeDock(_pageDock(QStringLiteral("scopeDock"), tr("Runtime Scopes"),
-                            new PYXRuntime::SHW_Debug_RuntimeScopes))
-    , m_brokerDock(_pageDock(QStringLiteral("brokerDock"), tr("Broker"), new PYXRuntime::SHW_Debug_Broker))
+    , m_scopeDock(_pageDock(QStringLiteral("scopeDock"), new PYXRuntime::SHW_Debug_RuntimeScopes))
+    , m_brokerDock(_pageDock(QStringLiteral("brokerDock"), new PYXRuntime::SHW_Debug_Broker))
     , m_poolDock(new PoolDock(window))
 {
+    retranslate();
     setShown(false); // before they are part of the window, which would keep room for them
     window->addDockWidget(Qt::RightDockWidgetArea, m_scopeDock);
     window->tabifyDockWidget(m_scopeDock, m_brokerDock);
@@ -79,10 +69,9 @@ DeveloperDocks::DeveloperDocks(QMainWindow *window, MainActions *actions)
     actions->addDock(m_poolDock, PYXStandardIcons::ekIcon_Storage_Local);
 }
 
-QDockWidget *DeveloperDocks::_pageDock(const QString &name, const QString &title,
-                                       PYXRuntime::PYXSettingsHandlerWidget *page)
+QDockWidget *DeveloperDocks::_pageDock(const QString &name, PYXRuntime::PYXSettingsHandlerWidget *page)
 {
-    auto *const dock = new QDockWidget(title, m_window);
+    auto *const dock = new QDockWidget(m_window);
     dock->setObjectName(name);
     adapt(page);
     dock->setWidget(new PageHolder(page));
@@ -92,6 +81,12 @@ QDockWidget *DeveloperDocks::_pageDock(const QString &name, const QString &title
             page->initContents();
     });
     return dock;
+}
+
+void DeveloperDocks::retranslate()
+{
+    m_scopeDock->setWindowTitle(tr("Runtime Scopes"));
+    m_brokerDock->setWindowTitle(tr("Broker"));
 }
 
 void DeveloperDocks::setShown(bool bShown)

@@ -31,11 +31,11 @@ public:
     PoolDock *poolDock() const { return m_poolDock; }
     /** Shows all of them, or none, and offers them in the menu or not. */
     void setShown(bool bShown);
+    void retranslate();
     bool isShown() const { return m_bShown; }
 
 private:
-    QDockWidget *_pageDock(const QString &name, const QString &title,
-                           PYXRuntime::PYXSettingsHandlerWidget *page);
+    QDockWidget *_pageDock(const QString &name, PYXRuntime::PYXSettingsHandlerWidget *page);
 
     QMainWindow *m_window;
     QDockWidget *m_scopeDock;

@@ -5,8 +5,7 @@
 #include <PYXBroker.h>
 #include <PYXIApplicationInfo.h>
 
-#include <QtCore/QLocale>
-#include <QtCore/QUrl>
+#include <QtCore/QEvent>
 
 namespace BandMonitor {
 namespace {
@@ -25,12 +24,11 @@ QString cacheDirectory()
 
 FetchDialog::FetchDialog(const QUrl &url, QWidget *parent)
     : QProgressDialog(parent)
+    , m_url(url)
     , m_fetcher(cacheDirectory())
 {
     setAttribute(Qt::WA_DeleteOnClose);
-    setWindowTitle(tr("Open URL"));
-    // The password that a URL may have is not for the screen.
-    setLabelText(tr("Fetching %1").arg(url.toDisplayString(QUrl::RemoveUserInfo)));
+    _retranslate();
     setRange(0, 0);
     setMinimumDuration(0);
     setAutoReset(false);
@@ -50,6 +48,20 @@ FetchDialog::FetchDialog(const QUrl &url, QWidget *parent)
     });
     m_fetcher.fetch(url);
     show();
+}
+
+void FetchDialog::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        _retranslate();
+    QProgressDialog::changeEvent(event);
+}
+
+void FetchDialog::_retranslate()
+{
+    setWindowTitle(tr("Open URL"));
+    // The password that a URL may have is not for the screen.
+    setLabelText(tr("Fetching %1").arg(m_url.toDisplayString(QUrl::RemoveUserInfo)));
 }
 
 void FetchDialog::_sl_fetcher_progress(qint64 a_received, qint64 a_total)

@@ -4,6 +4,7 @@
 
 #include "RecordingFetcher.h"
 
+#include <QtCore/QUrl>
 #include <QtWidgets/QProgressDialog>
 
 namespace BandMonitor {
@@ -19,9 +20,14 @@ Q_SIGNALS:
     void si_fetched(const QString &a_path);
     void si_failed(const QString &a_reason);
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
+    void _retranslate();
     void _sl_fetcher_progress(qint64 a_received, qint64 a_total);
 
+    const QUrl m_url;
     RecordingFetcher m_fetcher;
 };
 

@@ -5,6 +5,7 @@
 #include "CompactTable.h"
 #include "FileModel.h"
 
+#include <QtCore/QEvent>
 #include <QtCore/QFileInfo>
 #include <QtCore/QUrl>
 #include <QtGui/QDesktopServices>
@@ -18,19 +19,34 @@ FileDock::FileDock(QWidget *parent)
     : QDockWidget(parent)
     , m_model(new FileModel(this))
     , m_table(createCompactTable(m_model, font()))
+    , m_openButton(new QPushButton)
+    , m_folderButton(new QPushButton)
 {
     setObjectName(QStringLiteral("fileDock"));
-    setWindowTitle(tr("Files"));
     m_table->setObjectName(QStringLiteral("fileTable"));
-    m_table->setAccessibleName(tr("Written files"));
     m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     m_table->horizontalHeader()->setSectionResizeMode(FileModel::ekColumn_File, QHeaderView::Stretch);
-    auto *const openButton = new QPushButton(tr("Open F&ile"));
-    auto *const folderButton = new QPushButton(tr("Open F&older"));
-    connect(openButton, &QPushButton::clicked, this, [this] { _open(false); });
-    connect(folderButton, &QPushButton::clicked, this, [this] { _open(true); });
+    connect(m_openButton, &QPushButton::clicked, this, [this] { _open(false); });
+    connect(m_folderButton, &QPushButton::clicked, this, [this] { _open(true); });
     connect(m_table, &QTableView::activated, this, [this] { _open(false); });
-    setWidget(withButtons(m_table, {openButton, folderButton}));
+    setWidget(withButtons(m_table, {m_openButton, m_folderButton}));
+    _retranslate();
+}
+
+void FileDock::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        _retranslate();
+    QDockWidget::changeEvent(event);
+}
+
+void FileDock::_retranslate()
+{
+    setWindowTitle(tr("Files"));
+    m_table->setAccessibleName(tr("Written files"));
+    m_openButton->setText(tr("Open F&ile"));
+    m_folderButton->setText(tr("Open F&older"));
+    retranslate(m_table);
 }
 
 void FileDock::_open(bool bFolder) const

@@ -4,6 +4,7 @@
 
 #include <QtWidgets/QDockWidget>
 
+class QPushButton;
 class QTableView;
 
 namespace BandMonitor {
@@ -17,11 +18,17 @@ class FileDock final : public QDockWidget
 public:
     explicit FileDock(QWidget *parent = nullptr);
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
+    void _retranslate();
     void _open(bool bFolder) const;
 
     FileModel *m_model;
     QTableView *m_table;
+    QPushButton *m_openButton;
+    QPushButton *m_folderButton;
 };
 
 } // namespace BandMonitor

@@ -7,6 +7,7 @@
 #include <PYXTraceWrapper.h>
 
 #include <QtCore/QDateTime>
+#include <QtCore/QEvent>
 #include <QtGui/QTextBlock>
 #include <QtGui/QTextCursor>
 #include <QtWidgets/QPlainTextEdit>
@@ -45,13 +46,13 @@ LogDock::LogDock(QWidget *parent)
     , m_view(new QPlainTextEdit(this))
 {
     setObjectName(QStringLiteral("logDock"));
-    setWindowTitle(tr("Log"));
     m_view->setObjectName(QStringLiteral("logView"));
     m_view->setReadOnly(true);
     m_view->setMaximumBlockCount(MaximumLines);
     m_view->setFrameShape(QFrame::NoFrame);
     m_view->setFont(smallerFont(font()));
     setWidget(m_view);
+    _retranslate();
     // Traces come in any thread; the dock lives in the one of the windows.
     connect(&m_tracer, &LogTracer::si_linesWaiting, this, &LogDock::_showLines, Qt::QueuedConnection);
     PYXRuntime::PYXTraceWrapper::addTracer(&m_tracer);
@@ -60,6 +61,19 @@ LogDock::LogDock(QWidget *parent)
 LogDock::~LogDock()
 {
     PYXRuntime::PYXTraceWrapper::removeTracer(&m_tracer);
+}
+
+void LogDock::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        _retranslate();
+    QDockWidget::changeEvent(event);
+}
+
+void LogDock::_retranslate()
+{
+    setWindowTitle(tr("Log"));
+    m_view->setAccessibleName(tr("Traces"));
 }
 
 void LogDock::_showLines()

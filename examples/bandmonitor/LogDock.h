@@ -21,7 +21,11 @@ public:
     explicit LogDock(QWidget *parent = nullptr);
     ~LogDock() override;
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
+    void _retranslate();
     void _showLines();
     void _showLine(const LogTracer::struLine &line);
 

@@ -4,6 +4,7 @@
 
 #include <PYXStandardIcons.h>
 
+#include <QtCore/QLocale>
 #include <QtCore/QTimer>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QApplication>
@@ -41,6 +42,8 @@ constexpr struEntry Entries[] = {
      PYXStandardIcons::ekIcon_InputSource_Tuner},
     {"saveAction", QT_TRANSLATE_NOOP("BandMonitor::MainActions", "&Save Signals..."),
      PYXStandardIcons::ekIcon_Save, QKeySequence::Save},
+    {"settingsAction", QT_TRANSLATE_NOOP("BandMonitor::MainActions", "Se&ttings..."),
+     PYXStandardIcons::ekIcon_Settings, QKeySequence::Preferences},
     {"quitAction", QT_TRANSLATE_NOOP("BandMonitor::MainActions", "&Quit"), PYXStandardIcons::ekIcon_Exit,
      QKeySequence::Quit},
     {"playAction", QT_TRANSLATE_NOOP("BandMonitor::MainActions", "&Play"),
@@ -48,7 +51,7 @@ constexpr struEntry Entries[] = {
     {"recordAction", QT_TRANSLATE_NOOP("BandMonitor::MainActions", "&Record Detections"),
      PYXStandardIcons::ekIcon_Player_Recording, QKeySequence::UnknownKey, true},
     {"detectorAction", QT_TRANSLATE_NOOP("BandMonitor::MainActions", "&Detector..."),
-     PYXStandardIcons::ekIcon_Settings},
+     PYXStandardIcons::ekIcon_Display_Tool_Level},
     {"wholeBandAction", QT_TRANSLATE_NOOP("BandMonitor::MainActions", "Whole &Band"),
      PYXStandardIcons::ekIcon_Display_Auto_XScale},
     {"darkAction", QT_TRANSLATE_NOOP("BandMonitor::MainActions", "&Dark Colours"),
@@ -60,6 +63,12 @@ constexpr struEntry Entries[] = {
 };
 static_assert(std::size(Entries) == MainActions::ekAction_Count, "every action has its entry");
 
+// In the order of the menu bar.
+constexpr const char *MenuTitles[] = {QT_TRANSLATE_NOOP("BandMonitor::MainActions", "&File"),
+                                      QT_TRANSLATE_NOOP("BandMonitor::MainActions", "&Play"),
+                                      QT_TRANSLATE_NOOP("BandMonitor::MainActions", "&View"),
+                                      QT_TRANSLATE_NOOP("BandMonitor::MainActions", "&Help")};
+
 } // namespace
 
 MainActions::MainActions(QMainWindow *window, QMenu *recentMenu)
@@ -70,6 +79,7 @@ MainActions::MainActions(QMainWindow *window, QMenu *recentMenu)
     _createMenus(window, recentMenu);
     _createToolBar(window);
     showPlaying(false);
+    retranslate();
     // Not before the docks have told theirs.
     QTimer::singleShot(0, this, &MainActions::_loadIconsLater);
 }
@@ -77,8 +87,7 @@ MainActions::MainActions(QMainWindow *window, QMenu *recentMenu)
 void MainActions::_createActions(QMainWindow *window)
 {
     for (const struEntry &entry : Entries) {
-        auto *const action =
-            new QAction(tr(entry.text).replace(QLatin1String("%1"), QApplication::applicationName()), window);
+        auto *const action = new QAction(window);
         action->setObjectName(QLatin1String(entry.name));
         action->setCheckable(entry.bCheckable);
         action->setShortcuts(entry.key);
@@ -86,22 +95,42 @@ void MainActions::_createActions(QMainWindow *window)
         m_iconsToGive.insert(action, entry.icon);
     }
     action(ekAction_Play)->setShortcut(Qt::Key_Space);
+    if (action(ekAction_Settings)->shortcut().isEmpty()) // not every system has one
+        action(ekAction_Settings)->setShortcut(Qt::CTRL + Qt::Key_Comma);
+    action(ekAction_Settings)->setMenuRole(QAction::PreferencesRole);
+    action(ekAction_Quit)->setMenuRole(QAction::QuitRole);
+    action(ekAction_About)->setMenuRole(QAction::AboutRole);
+}
+
+void MainActions::retranslate()
+{
+    for (int id = 0; id < ekAction_Count; ++id)
+        m_actions.at(id)->setText(
+            tr(Entries[id].text).replace(QLatin1String("%1"), QApplication::applicationName()));
     action(ekAction_Record)->setIconText(tr("Record"));
+    showPlaying(m_bPlaying);
+    for (int i = 0; i < m_menus.size(); ++i)
+        m_menus.at(i)->setTitle(tr(MenuTitles[i]));
+    m_toolBar->setWindowTitle(tr("Playing"));
+    for (int i = 0; i < m_speedBox->count(); ++i)
+        m_speedBox->setItemText(i,
+                                tr("%1\u00d7").arg(QLocale().toString(m_speedBox->itemData(i).toDouble())));
+    m_speedBox->setToolTip(tr("Speed"));
+    m_speedBox->setAccessibleName(tr("Speed"));
 }
 
 void MainActions::_createSpeedBox()
 {
     m_speedBox = new QComboBox;
     for (const double speed : Speeds)
-        m_speedBox->addItem(tr("%1\u00d7").arg(speed), speed);
+        m_speedBox->addItem(QString(), speed);
     m_speedBox->setCurrentIndex(UsualSpeed);
-    m_speedBox->setToolTip(tr("Speed"));
-    m_speedBox->setAccessibleName(tr("Speed"));
 }
 
-QMenu *MainActions::_addMenu(const QMainWindow *window, const QString &title, const QList<eAction> &entries)
+QMenu *MainActions::_addMenu(const QMainWindow *window, const QList<eAction> &entries)
 {
-    QMenu *const menu = window->menuBar()->addMenu(title);
+    QMenu *const menu = window->menuBar()->addMenu(QString());
+    m_menus += menu;
     connect(menu, &QMenu::aboutToShow, this, [this, menu] { _giveIcons(menu); });
     for (const eAction entry : entries)
         menu->addAction(action(entry));
@@ -110,33 +139,33 @@ QMenu *MainActions::_addMenu(const QMainWindow *window, const QString &title, co
 
 void MainActions::_createMenus(const QMainWindow *window, QMenu *recentMenu)
 {
-    QMenu *const fileMenu =
-        _addMenu(window, tr("&File"),
-                 {ekAction_Open, ekAction_OpenUrl, ekAction_OwnBand, ekAction_Save, ekAction_Quit});
+    QMenu *const fileMenu = _addMenu(window, {ekAction_Open, ekAction_OpenUrl, ekAction_OwnBand,
+                                              ekAction_Save, ekAction_Settings, ekAction_Quit});
     fileMenu->insertMenu(action(ekAction_OwnBand), recentMenu);
     fileMenu->insertSeparator(action(ekAction_Save));
+    fileMenu->insertSeparator(action(ekAction_Settings));
     fileMenu->insertSeparator(action(ekAction_Quit));
     m_iconsToGive.insert(recentMenu->menuAction(), PYXStandardIcons::ekIcon_Player_Document);
-    QMenu *const playMenu =
-        _addMenu(window, tr("&Play"), {ekAction_Play, ekAction_Record, ekAction_Detector});
+    QMenu *const playMenu = _addMenu(window, {ekAction_Play, ekAction_Record, ekAction_Detector});
     playMenu->insertSeparator(action(ekAction_Detector));
-    m_viewMenu = _addMenu(window, tr("&View"), {ekAction_WholeBand, ekAction_Dark, ekAction_PopUps});
+    m_viewMenu = _addMenu(window, {ekAction_WholeBand, ekAction_Dark, ekAction_PopUps});
     m_viewMenu->addSeparator();
-    _addMenu(window, tr("&Help"), {ekAction_About});
+    _addMenu(window, {ekAction_About});
 }
 
 void MainActions::_createToolBar(QMainWindow *window)
 {
-    QToolBar *const toolBar = window->addToolBar(tr("Playing"));
-    toolBar->setObjectName(QStringLiteral("playToolBar"));
-    toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    toolBar->setMovable(false);
-    toolBar->setIconSize({ToolBarIconSize, ToolBarIconSize});
+    m_toolBar = new QToolBar(window);
+    window->addToolBar(m_toolBar);
+    m_toolBar->setObjectName(QStringLiteral("playToolBar"));
+    m_toolBar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    m_toolBar->setMovable(false);
+    m_toolBar->setIconSize({ToolBarIconSize, ToolBarIconSize});
     for (const eAction id : {ekAction_Open, ekAction_OwnBand, ekAction_Play, ekAction_Record}) {
         action(id)->setIcon(PYXStandardIcons::staticRegisteredIcon(m_iconsToGive.take(action(id))));
-        toolBar->addAction(action(id));
+        m_toolBar->addAction(action(id));
     }
-    toolBar->addWidget(m_speedBox);
+    m_toolBar->addWidget(m_speedBox);
 }
 
 void MainActions::addDock(const QDockWidget *dock, uint icon)
@@ -148,6 +177,7 @@ void MainActions::addDock(const QDockWidget *dock, uint icon)
 
 void MainActions::showPlaying(bool bPlaying)
 {
+    m_bPlaying = bPlaying;
     QAction *const play = action(ekAction_Play);
     play->setText(bPlaying ? tr("&Pause") : tr("&Play"));
     play->setIcon(PYXStandardIcons::staticRegisteredIcon(bPlaying ? PYXStandardIcons::ekIcon_Player_Pause

@@ -11,6 +11,7 @@ class QComboBox;
 class QDockWidget;
 class QMainWindow;
 class QMenu;
+class QToolBar;
 
 namespace BandMonitor {
 
@@ -27,6 +28,7 @@ public:
         ekAction_OpenUrl,
         ekAction_OwnBand,
         ekAction_Save,
+        ekAction_Settings,
         ekAction_Quit,
         ekAction_Play,
         ekAction_Record,
@@ -49,20 +51,25 @@ public:
     void addDock(const QDockWidget *dock, uint icon);
     /** Whether the next use of the play action pauses. */
     void showPlaying(bool bPlaying);
+    /** Sets all texts, after a change of the language. */
+    void retranslate();
 
 private:
     void _createActions(QMainWindow *window);
     void _createMenus(const QMainWindow *window, QMenu *recentMenu);
     void _createToolBar(QMainWindow *window);
     void _createSpeedBox();
-    QMenu *_addMenu(const QMainWindow *window, const QString &title, const QList<eAction> &entries);
+    QMenu *_addMenu(const QMainWindow *window, const QList<eAction> &entries);
     void _loadIconsLater();
     void _giveIcons(const QMenu *menu);
 
     QList<QAction *> m_actions;
     QHash<const QAction *, uint> m_iconsToGive; ///< by the actions that have none yet
+    QList<QMenu *> m_menus;
     QMenu *m_viewMenu = nullptr;
+    QToolBar *m_toolBar = nullptr;
     QComboBox *m_speedBox = nullptr;
+    bool m_bPlaying = false;
 };
 
 } // namespace BandMonitor

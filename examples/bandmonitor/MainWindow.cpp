@@ -3,12 +3,12 @@
 #include "MainWindow.h"
 
 #include "AboutBox.h"
+#include "ApplicationSettings.h"
 #include "BandGenerator.h"
 #include "Colours.h"
 #include "Complaint.h"
 #include "DetectionDock.h"
 #include "DetectionRecorder.h"
-#include "DetectorDialog.h"
 #include "DeveloperDocks.h"
 #include "FetchDialog.h"
 #include "FileDock.h"
@@ -18,6 +18,7 @@
 #include "PlotArea.h"
 #include "PoolDock.h"
 #include "RecentRecordings.h"
+#include "SHW_Display_Window.h"
 #include "SignalMonitor.h"
 #include "SignalPopups.h"
 #include "StateBar.h"
@@ -57,8 +58,6 @@ const char TraceFile[] = "bandmonitor\\MainWindow";
 
 const QLatin1String GeometryKey("MainWindow/Geometry");
 const QLatin1String StateKey("MainWindow/State");
-const QLatin1String DarkKey("MainWindow/DarkColours");
-const QLatin1String PopUpsKey("MainWindow/AnnounceNewSignals");
 
 // Which question that is, among those that are not asked again.
 const QLatin1String CloseQuestionModule("BandMonitor");
@@ -75,6 +74,7 @@ constexpr double DockShare = 0.27;
 
 MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
+    , m_settings(new ApplicationSettings(this))
     , m_plots(new PlotArea)
     , m_stateBar(new StateBar)
     , m_popups(new SignalPopups(this))
@@ -91,6 +91,23 @@ MainWindow::MainWindow(QWidget *parent)
 }
 
 MainWindow::~MainWindow() = default;
+
+void MainWindow::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        _retranslate();
+    QMainWindow::changeEvent(event);
+}
+
+void MainWindow::_retranslate()
+{
+    _registerFilters();
+    m_actions->retranslate();
+    m_developerDocks->retranslate();
+    _showTitle();
+    if (m_monitor)
+        _showState();
+}
 
 void MainWindow::showEvent(QShowEvent *event)
 {
@@ -109,11 +126,31 @@ void MainWindow::restoreSettings()
     restoreGeometry(settings.byteArrayValue(GeometryKey));
     m_bArranged = restoreState(settings.byteArrayValue(StateKey));
     m_developerDocks->setShown(m_developerDocks->isShown()); // it may have been another mode then
-    setDark(settings.boolValue(DarkKey));
-    m_actions->action(MainActions::ekAction_PopUps)
-        ->setChecked(settings.value(PopUpsKey, QVariant(true)).toBool());
-    m_detectorParameters = struDetectorParameters::restored();
+    _sl_settings_applied();
     m_bKeepSettings = true;
+}
+
+void MainWindow::_sl_settings_applied()
+{
+    const PYXSettings settings(PYXSettings::eUserApplicationSettings);
+    setDark(SHW_Display_Window::isDark(settings));
+    m_actions->action(MainActions::ekAction_PopUps)
+        ->setChecked(SHW_Display_Window::announcesNewSignals(settings));
+    m_stationDock->restorePeers();
+    const struDetectorParameters parameters = struDetectorParameters::restored(settings);
+    if (parameters == m_detectorParameters)
+        return;
+    m_detectorParameters = parameters;
+    if (m_monitor)
+        m_monitor->setDetectorParameters(parameters);
+}
+
+void MainWindow::_keep(void (*set)(PYXSettings &, bool), bool bValue) const
+{
+    if (!m_bKeepSettings)
+        return;
+    PYXSettings settings(PYXSettings::eUserApplicationSettings);
+    set(settings, bValue);
 }
 
 void MainWindow::followModes(PYXRuntime::PYXAppInternalsImpl *internals)
@@ -121,6 +158,8 @@ void MainWindow::followModes(PYXRuntime::PYXAppInternalsImpl *internals)
     internals->installShortcuts_AppModes(this);
     internals->connectSignal_appModesChanged(this, SLOT(_sl_appModesChanged()));
     _sl_appModesChanged();
+    connect(m_settings, &ApplicationSettings::si_appModesApplied, this,
+            [internals](quint64 modes) { internals->overrideAppModes(modes); });
 }
 
 void MainWindow::_sl_appModesChanged()
@@ -177,8 +216,6 @@ void MainWindow::closeEvent(QCloseEvent *event)
     PYXSettings settings(PYXSettings::eUserApplicationSettings);
     settings.setValue(GeometryKey, saveGeometry());
     settings.setValue(StateKey, saveState());
-    settings.setValue(DarkKey, m_actions->action(MainActions::ekAction_Dark)->isChecked());
-    settings.setValue(PopUpsKey, m_actions->action(MainActions::ekAction_PopUps)->isChecked());
 }
 
 void MainWindow::_createDocks()
@@ -200,10 +237,15 @@ void MainWindow::_createDocks()
     m_developerDocks = new DeveloperDocks(this, m_actions);
 }
 
-void MainWindow::_createActions()
+void MainWindow::_registerFilters()
 {
     PYXFileFilter::registerFilter(RecordingsFilter, tr("Recordings"), {QStringLiteral("*.wav")});
     PYXFileFilter::registerFilter(TablesFilter, tr("Comma-separated tables"), {QStringLiteral("*.csv")});
+}
+
+void MainWindow::_createActions()
+{
+    _registerFilters();
     auto *const recentMenu = new RecentRecordings(this);
     connect(recentMenu, &RecentRecordings::si_chosen, this, &MainWindow::openRecording);
     m_actions = new MainActions(this, recentMenu);
@@ -216,14 +258,22 @@ void MainWindow::_createActions()
     onTriggered(MainActions::ekAction_Save, &MainWindow::_sl_saveAction_triggered);
     onTriggered(MainActions::ekAction_Quit, &QWidget::close);
     onTriggered(MainActions::ekAction_Play, [this] { setPlaying(!m_playback.isRunning()); });
-    onTriggered(MainActions::ekAction_Detector, &MainWindow::_sl_detectorAction_triggered);
+    onTriggered(MainActions::ekAction_Detector,
+                [this] { m_settings->run(ApplicationSettings::ekPage_Detector); });
+    onTriggered(MainActions::ekAction_Settings, [this] { m_settings->run(); });
+    connect(m_settings, &ApplicationSettings::si_applied, this, &MainWindow::_sl_settings_applied);
     onTriggered(MainActions::ekAction_WholeBand, [this] { m_plots->showBand(); });
     onTriggered(MainActions::ekAction_About, [this] { showAboutBox(this); });
     connect(m_actions->action(MainActions::ekAction_Record), &QAction::toggled, this,
             &MainWindow::setRecording);
-    connect(m_actions->action(MainActions::ekAction_Dark), &QAction::toggled, this, &MainWindow::setDark);
-    connect(m_actions->action(MainActions::ekAction_PopUps), &QAction::toggled, m_popups,
-            &SignalPopups::setEnabled);
+    connect(m_actions->action(MainActions::ekAction_Dark), &QAction::toggled, this, [this](bool bDark) {
+        setDark(bDark);
+        _keep(&SHW_Display_Window::setDark, bDark);
+    });
+    connect(m_actions->action(MainActions::ekAction_PopUps), &QAction::toggled, this, [this](bool bAnnounce) {
+        m_popups->setEnabled(bAnnounce);
+        _keep(&SHW_Display_Window::setAnnouncesNewSignals, bAnnounce);
+    });
     connect(m_actions->speedBox(), qOverload<int>(&QComboBox::currentIndexChanged), this,
             [this] { m_playback.setSpeed(m_actions->speedBox()->currentData().toDouble()); });
 }
@@ -362,18 +412,6 @@ void MainWindow::_sl_saveAction_triggered()
     if (!file.open(QIODevice::WriteOnly) || file.write(table) != table.size() || !file.commit())
         complain(this, tr("The signals cannot be saved."), path + QLatin1String(": ") + file.errorString(),
                  TraceFile, __LINE__);
-}
-
-void MainWindow::_sl_detectorAction_triggered()
-{
-    DetectorDialog dialog(this);
-    dialog.setParameters(m_detectorParameters);
-    if (dialog.exec() != QDialog::Accepted || dialog.parameters() == m_detectorParameters)
-        return;
-    m_detectorParameters = dialog.parameters();
-    m_monitor->setDetectorParameters(m_detectorParameters);
-    if (m_bKeepSettings)
-        m_detectorParameters.save();
 }
 
 void MainWindow::_showDetections()

@@ -12,10 +12,12 @@
 
 namespace PYXRuntime {
 class PYXAppInternalsImpl;
+class PYXSettings;
 } // namespace PYXRuntime
 
 namespace BandMonitor {
 
+class ApplicationSettings;
 class DetectionDock;
 class DetectionRecorder;
 class DeveloperDocks;
@@ -56,6 +58,7 @@ public:
     const SignalMonitor *monitor() const { return m_monitor.get(); }
 
 protected:
+    void changeEvent(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void closeEvent(QCloseEvent *event) override;
 
@@ -74,7 +77,11 @@ private:
     void _sl_openAction_triggered();
     void _sl_openUrlAction_triggered();
     void _sl_saveAction_triggered();
-    void _sl_detectorAction_triggered();
+    void _sl_settings_applied();
+    void _retranslate();
+    void _registerFilters();
+    /** Keeps a choice of the user at once, where choices are kept. */
+    void _keep(void (*set)(PYXRuntime::PYXSettings &, bool), bool bValue) const;
 
     std::unique_ptr<SignalMonitor> m_monitor;
     std::unique_ptr<DetectionRecorder> m_recorder; ///< only while it records
@@ -84,6 +91,7 @@ private:
     bool m_bKeepSettings = false;
     struDetectorParameters m_detectorParameters;
 
+    ApplicationSettings *m_settings;
     PlotArea *m_plots;
     StateBar *m_stateBar;
     SignalPopups *m_popups;

@@ -5,8 +5,12 @@
 #include "StationModel.h"
 
 #include <PYXSettings.h>
+#include <SHW_Network_Entries.h>
+
+#include <QtGui/QFont>
 
 using PYXRuntime::PYXNetworkEntry;
+using PYXRuntime::PYXNetworkEntryList;
 using PYXRuntime::PYXSettings;
 
 namespace BandMonitor {
@@ -14,17 +18,42 @@ namespace {
 
 const QLatin1String SettingsGroup("Peers");
 
+QFont boldFont()
+{
+    QFont font;
+    font.setBold(true);
+    return font;
+}
+
 } // namespace
 
 PeerModel::PeerModel(const StationModel &stations, QObject *parent)
     : QAbstractTableModel(parent)
     , m_stations(stations)
+    , m_peers(emptyList())
 {
-    m_peers.setGroupKey(SettingsGroup);
-    PYXSettings settings(PYXSettings::eUserApplicationSettings);
-    m_peers.restore(settings);
+    restore();
     connect(&stations, &QAbstractItemModel::rowsInserted, this, &PeerModel::_sl_stations_changed);
     connect(&stations, &QAbstractItemModel::rowsRemoved, this, &PeerModel::_sl_stations_changed);
+}
+
+PYXNetworkEntryList PeerModel::emptyList()
+{
+    PYXNetworkEntryList list = PYXRuntime::SHW_Network_Entries::usualKeys();
+    list.setGroupKey(SettingsGroup);
+    return list;
+}
+
+void PeerModel::restore()
+{
+    PYXSettings settings(PYXSettings::eUserApplicationSettings);
+    PYXNetworkEntryList stored = emptyList();
+    stored.restore(settings);
+    if (stored == m_peers && stored.defaultEntryName() == m_peers.defaultEntryName())
+        return;
+    beginResetModel();
+    m_peers = stored;
+    endResetModel();
 }
 
 void PeerModel::add(const PYXNetworkEntry &peer)
@@ -65,9 +94,16 @@ Qt::ItemFlags PeerModel::flags(const QModelIndex &index) const
 
 QVariant PeerModel::data(const QModelIndex &index, int role) const
 {
-    if (!index.isValid() || (role != Qt::DisplayRole && role != Qt::EditRole))
+    if (!index.isValid())
         return {};
     const PYXNetworkEntry &peer = m_peers.at(index.row());
+    const bool bDefault = peer.name() == m_peers.defaultEntryName();
+    if (role == Qt::FontRole && bDefault)
+        return boldFont();
+    if (role == Qt::ToolTipRole && bDefault)
+        return tr("Default peer");
+    if (role != Qt::DisplayRole && role != Qt::EditRole)
+        return {};
     switch (index.column()) {
     case ekColumn_Name:
         return peer.name();

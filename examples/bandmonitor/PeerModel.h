@@ -20,6 +20,11 @@ public:
     /** @param stations tell which peers are on air; outlive the model */
     explicit PeerModel(const StationModel &stations, QObject *parent = nullptr);
 
+    /** What is stored in the settings, where it differs from what the model has. */
+    void restore();
+    /** Without entries: its keys tell where they are stored. */
+    static PYXRuntime::PYXNetworkEntryList emptyList();
+
     void add(const PYXRuntime::PYXNetworkEntry &peer);
     void remove(int row);
 

@@ -27,6 +27,13 @@ PlotView::PlotView(FrequencyAxis *axis, QWidget *parent)
     connect(axis, &FrequencyAxis::si_changed, this, [this] { update(); });
 }
 
+void PlotView::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange || event->type() == QEvent::LocaleChange)
+        update();
+    QWidget::changeEvent(event);
+}
+
 QSize PlotView::minimumSizeHint() const
 {
     return {320, 110};

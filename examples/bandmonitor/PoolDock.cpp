@@ -6,6 +6,7 @@
 
 #include <PYXMemoryPool.h>
 
+#include <QtCore/QEvent>
 #include <QtCore/QLocale>
 #include <QtWidgets/QLabel>
 
@@ -22,13 +23,13 @@ PoolDock::PoolDock(QWidget *parent)
     , m_label(new QLabel)
 {
     setObjectName(QStringLiteral("poolDock"));
-    setWindowTitle(tr("Sample Buffers"));
     m_label->setObjectName(QStringLiteral("poolLabel"));
     m_label->setFont(smallerFont(font()));
     m_label->setAlignment(Qt::AlignTop);
     m_label->setMargin(Margin);
     m_label->setTextInteractionFlags(Qt::TextSelectableByMouse);
     setWidget(m_label);
+    _retranslate();
     m_timer.setInterval(UpdateInterval);
     connect(&m_timer, &QTimer::timeout, this, &PoolDock::_showFigures);
 }
@@ -36,6 +37,19 @@ PoolDock::PoolDock(QWidget *parent)
 void PoolDock::setPool(const PYXRuntime::PYXMemoryPool *pool)
 {
     m_pool = pool;
+    _showFigures();
+}
+
+void PoolDock::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        _retranslate();
+    QDockWidget::changeEvent(event);
+}
+
+void PoolDock::_retranslate()
+{
+    setWindowTitle(tr("Sample Buffers"));
     _showFigures();
 }
 

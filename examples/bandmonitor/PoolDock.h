@@ -24,10 +24,12 @@ public:
     void setPool(const PYXRuntime::PYXMemoryPool *pool);
 
 protected:
+    void changeEvent(QEvent *event) override;
     void showEvent(QShowEvent *event) override;
     void hideEvent(QHideEvent *event) override;
 
 private:
+    void _retranslate();
     void _showFigures();
 
     QPointer<const PYXRuntime::PYXMemoryPool> m_pool;

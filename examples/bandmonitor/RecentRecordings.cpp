@@ -5,6 +5,7 @@
 #include <PYXSettings.h>
 
 #include <QtCore/QDir>
+#include <QtCore/QEvent>
 #include <QtCore/QFileInfo>
 
 using PYXRuntime::PYXSettings;
@@ -20,10 +21,19 @@ RecentRecordings::RecentRecordings(QWidget *parent)
     : QMenu(parent)
 {
     setObjectName(QStringLiteral("recentMenu"));
-    setTitle(tr("Open &Recent"));
     setToolTipsVisible(true);
     connect(this, &QMenu::aboutToShow, this, &RecentRecordings::_sl_aboutToShow);
+    setTitle(tr("Open &Recent"));
     _sl_aboutToShow();
+}
+
+void RecentRecordings::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange) {
+        setTitle(tr("Open &Recent"));
+        _sl_aboutToShow();
+    }
+    QMenu::changeEvent(event);
 }
 
 QStringList RecentRecordings::paths()

@@ -21,6 +21,9 @@ public:
 Q_SIGNALS:
     void si_chosen(const QString &a_path);
 
+protected:
+    void changeEvent(QEvent *event) override;
+
 private:
     void _sl_aboutToShow();
 };

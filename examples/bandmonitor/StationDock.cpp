@@ -8,6 +8,7 @@
 
 #include <PYXTraceWrapper.h>
 
+#include <QtCore/QEvent>
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QTableView>
@@ -28,37 +29,54 @@ StationDock::StationDock(QWidget *parent)
     , m_peers(new PeerModel(*m_stations, this))
     , m_stationTable(createCompactTable(m_stations, font()))
     , m_peerTable(createCompactTable(m_peers, font()))
+    , m_keepButton(new QPushButton)
+    , m_addButton(new QPushButton)
+    , m_removeButton(new QPushButton)
 {
     setObjectName(QStringLiteral("stationDock"));
-    setWindowTitle(tr("Stations"));
     auto *const content = new QWidget;
     auto *const layout = new QHBoxLayout(content);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(_createStations());
     layout->addWidget(_createPeers());
     setWidget(content);
+    _retranslate();
+}
+
+void StationDock::changeEvent(QEvent *event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        _retranslate();
+    QDockWidget::changeEvent(event);
+}
+
+void StationDock::_retranslate()
+{
+    setWindowTitle(tr("Stations"));
+    m_stationTable->setAccessibleName(tr("Stations on air"));
+    m_peerTable->setAccessibleName(tr("Peers"));
+    m_keepButton->setText(tr("&Keep as Peer"));
+    m_addButton->setText(tr("&Add"));
+    m_removeButton->setText(tr("&Remove"));
+    retranslate(m_stationTable);
+    retranslate(m_peerTable);
 }
 
 QWidget *StationDock::_createStations()
 {
     m_stationTable->setObjectName(QStringLiteral("stationTable"));
-    m_stationTable->setAccessibleName(tr("Stations on air"));
-    auto *const keepButton = new QPushButton(tr("&Keep as Peer"));
-    connect(keepButton, &QPushButton::clicked, this, &StationDock::_sl_keepButton_clicked);
-    return withButtons(m_stationTable, {keepButton});
+    connect(m_keepButton, &QPushButton::clicked, this, &StationDock::_sl_keepButton_clicked);
+    return withButtons(m_stationTable, {m_keepButton});
 }
 
 QWidget *StationDock::_createPeers()
 {
     m_peerTable->setObjectName(QStringLiteral("peerTable"));
-    m_peerTable->setAccessibleName(tr("Peers"));
-    auto *const addButton = new QPushButton(tr("&Add"));
-    auto *const removeButton = new QPushButton(tr("&Remove"));
-    addButton->setObjectName(QStringLiteral("addPeerButton"));
-    removeButton->setObjectName(QStringLiteral("removePeerButton"));
-    connect(addButton, &QPushButton::clicked, this, &StationDock::_sl_addButton_clicked);
-    connect(removeButton, &QPushButton::clicked, this, &StationDock::_sl_removeButton_clicked);
-    return withButtons(m_peerTable, {addButton, removeButton});
+    m_addButton->setObjectName(QStringLiteral("addPeerButton"));
+    m_removeButton->setObjectName(QStringLiteral("removePeerButton"));
+    connect(m_addButton, &QPushButton::clicked, this, &StationDock::_sl_addButton_clicked);
+    connect(m_removeButton, &QPushButton::clicked, this, &StationDock::_sl_removeButton_clicked);
+    return withButtons(m_peerTable, {m_addButton, m_removeButton});
 }
 
 void StationDock::start()
@@ -69,6 +87,11 @@ void StationDock::start()
             tr("Port %1 cannot be listened on: no stations will be shown.").arg(struAnnouncement::Port),
             TraceFile, __LINE__);
     m_sender.start(m_announcement.toDatagram(), struAnnouncement::Port, m_announcement.interval, {});
+}
+
+void StationDock::restorePeers()
+{
+    m_peers->restore();
 }
 
 void StationDock::_sl_keepButton_clicked()

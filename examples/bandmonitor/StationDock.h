@@ -9,6 +9,7 @@
 
 #include <QtWidgets/QDockWidget>
 
+class QPushButton;
 class QTableView;
 
 namespace BandMonitor {
@@ -25,8 +26,14 @@ public:
 
     /** Begins to announce and to listen. */
     void start();
+    /** Shows the peers that are stored now. */
+    void restorePeers();
+
+protected:
+    void changeEvent(QEvent *event) override;
 
 private:
+    void _retranslate();
     QWidget *_createStations();
     QWidget *_createPeers();
     void _sl_keepButton_clicked();
@@ -38,6 +45,9 @@ private:
     PeerModel *m_peers;
     QTableView *m_stationTable;
     QTableView *m_peerTable;
+    QPushButton *m_keepButton;
+    QPushButton *m_addButton;
+    QPushButton *m_removeButton;
     PYXRuntime::BroadcastSender m_sender;
     PYXRuntime::BroadcastReceiver m_receiver;
 };

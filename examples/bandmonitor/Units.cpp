@@ -12,10 +12,10 @@
 namespace BandMonitor {
 namespace {
 
-QString tr(const char *text)
+struct UnitTexts
 {
-    return QCoreApplication::translate("BandMonitor::Units", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(BandMonitor::Units)
+};
 
 /** Decimals are those for kHz; the other units have three more or less. */
 QString hertzText(double hertz, int decimals)
@@ -58,7 +58,8 @@ QString timeText(double seconds)
 QString sourceText(const SampleSource &source)
 {
     const QString rate = QLocale().toString(source.sampleRate() / 1000, 'g', 7) + QLatin1String(" kHz");
-    return (source.isComplex() ? tr("%1 I/Q, %2") : tr("%1 real, %2")).arg(rate, source.coding());
+    return (source.isComplex() ? UnitTexts::tr("%1 I/Q, %2") : UnitTexts::tr("%1 real, %2"))
+        .arg(rate, source.coding());
 }
 
 } // namespace BandMonitor

@@ -4,6 +4,7 @@
 #include "CommandLine.h"
 #include "Complaint.h"
 #include "HeadlessRun.h"
+#include "LocaleFollower.h"
 #include "MainWindow.h"
 #include "SecondStart.h"
 #include "WavReader.h"
@@ -12,11 +13,15 @@
 #include <PYXApplicationInfoImpl.h>
 #include <PYXBroker.h>
 #include <PYXFileTracer.h>
+#include <PYXITransConnector.h>
 #include <PYXRuntime.h>
 #include <PYXRuntimeCenter.h>
+#include <PYXSettings.h>
 #include <PYXSingleInstance.h>
 #include <PYXStandardIcons.h>
 #include <PYXTraceWrapper.h>
+#include <SHW_Debug_AppMode.h>
+#include <SHW_General_Language.h>
 
 #include <QtCore/QLocale>
 #include <QtWidgets/QApplication>
@@ -32,10 +37,10 @@ namespace {
 
 const char TraceSource[] = "bandmonitor\\main";
 
-QString tr(const char *text)
+struct MainTexts
 {
-    return QCoreApplication::translate("BandMonitor::main", text);
-}
+    Q_DECLARE_TR_FUNCTIONS(BandMonitor::main)
+};
 
 void print(std::FILE *stream, const QString &text)
 {
@@ -88,13 +93,15 @@ class TraceFile final
     Q_DISABLE_COPY(TraceFile)
 public:
     TraceFile()
-        : m_tracer(
-              {logsDirectory(), QStringLiteral("bandmonitor.txt"), MaximumBytes, MaximumFiles, tr("Trace")})
+        : m_tracer({logsDirectory(), QStringLiteral("bandmonitor.txt"), MaximumBytes, MaximumFiles,
+                    MainTexts::tr("Trace")})
     {
         if (m_tracer.open())
             PYXRuntime::PYXTraceWrapper::addTracer(&m_tracer);
         else
-            print(stderr, tr("bandmonitor: No trace file can be written: %1\n").arg(m_tracer.errorString()));
+            print(
+                stderr,
+                MainTexts::tr("bandmonitor: No trace file can be written: %1\n").arg(m_tracer.errorString()));
     }
     ~TraceFile() { PYXRuntime::PYXTraceWrapper::removeTracer(&m_tracer); }
 
@@ -119,8 +126,23 @@ int saveScreenshot(MainWindow &window, const QString &path)
     QCoreApplication::processEvents();
     if (window.grab().save(path))
         return 0;
-    print(stderr, tr("bandmonitor: The picture \"%1\" cannot be written.\n").arg(path));
+    print(stderr, MainTexts::tr("bandmonitor: The picture \"%1\" cannot be written.\n").arg(path));
     return 1;
+}
+
+/** Language, style and modes, as they are stored; what the command line says comes before. */
+void takeStored(const CommandLine &commandLine, PYXRuntime::PYXAppInternalsSimple &internals)
+{
+    using namespace PYXRuntime;
+    if (commandLine.screenshotPath().isEmpty()) {
+        const PYXSettings settings(PYXSettings::eUserApplicationSettings);
+        SHW_General_Language::applyStored(settings);
+        const bool bModesGiven = internals.cmdLineArgs() != internals.cmdLineArgs_withoutStandard();
+        if (!bModesGiven)
+            internals.setAppModes(SHW_Debug_AppMode::storedAppModes(settings));
+    }
+    if (!commandLine.locale().isEmpty())
+        PYXBroker::getInstance()->topObject<PYXITransConnector>()->changeLocale(commandLine.locale());
 }
 
 void prepareWindow(MainWindow &window, const CommandLine &commandLine)
@@ -142,7 +164,7 @@ void tellIfAlone(MainWindow &window, const PYXSingleInstance &instance, PYXSingl
 {
     if (result == PYXSingleInstance::ekFirstDoesNotAnswer || result == PYXSingleInstance::ekRefused)
         complain(&window,
-                 tr("%1 is running already, but cannot be reached. This is a window of its own.")
+                 MainTexts::tr("%1 is running already, but cannot be reached. This is a window of its own.")
                      .arg(QCoreApplication::applicationName()),
                  instance.errorString(), TraceSource, __LINE__);
     else if (result == PYXSingleInstance::ekError)
@@ -153,6 +175,8 @@ int runWindow(const CommandLine &commandLine, PYXRuntime::PYXAppInternalsSimple 
               PYXSingleInstance &instance, PYXSingleInstance::eResult result)
 {
     using PYXRuntime::PYXStandardIcons;
+    takeStored(commandLine, internals);
+    const LocaleFollower localeFollower;
     const QString picture = commandLine.screenshotPath();
     std::unique_ptr<TraceFile> traceFile;
     if (picture.isEmpty())

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "MainWindow.h"
 
+#include "Colours.h"
 #include "DetectionModel.h"
-#include "DetectorDialog.h"
 #include "LogDock.h"
 #include "RecentRecordings.h"
 #include "SecondStart.h"
@@ -159,21 +159,21 @@ void tst_MainWindow::goesOnAsItWasClosed()
         window.restoreSettings();
         QVERIFY(!isDark());
         window.resize(700, 500);
-        window.setDark(true);
+        window.findChild<QAction *>("darkAction")->trigger();
         QVERIFY(window.findChild<QAction *>("popUpsAction")->isChecked());
         window.findChild<QAction *>("popUpsAction")->trigger();
         window.findChild<LogDock *>()->hide();
         QVERIFY(window.openRecording(m_path));
         QTimer::singleShot(0, &window, [&window] {
-            auto *const dialog = window.findChild<DetectorDialog *>();
-            dialog->findChild<QSpinBox *>("gapBox")->setValue(struDetectorParameters::WidestGap);
-            dialog->accept();
+            window.findChild<QSpinBox *>("gapBox")->setValue(struDetectorParameters::WidestGap);
+            auto *const buttons = window.findChild<QDialogButtonBox *>("m_ButtonBoxDialog");
+            buttons->button(QDialogButtonBox::Ok)->click();
         });
         window.findChild<QAction *>("detectorAction")->trigger();
         window.playToEnd();
         QCOMPARE(tableOf(window).rowCount(), 1); // two tones are no longer two signals
         window.close();
-        window.setDark(false);
+        setDarkColours(false);
     }
     MainWindow window;
     window.restoreSettings();
