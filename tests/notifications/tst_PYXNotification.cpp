@@ -189,7 +189,9 @@ void tst_PYXNotification::fitsItsText()
     const QSize one = sizeOf("text", 9);
     const QSize three = sizeOf("text\ntext\ntext", 9);
     QVERIFY(three.height() > one.height() && three.width() == one.width());
-    QVERIFY(sizeOf("text", 18).height() > one.height() * 4 / 3);
+    // Without any font, as under Wine, all sizes are one.
+    const bool bFontsGrow = QFontMetrics(QFont("", 18)).height() > QFontMetrics(QFont("", 9)).height();
+    QVERIFY(!bFontsGrow || sizeOf("text", 18).height() > one.height() * 4 / 3);
     const QSize screen = QGuiApplication::primaryScreen()->availableSize();
     for (const QString &text : {QString("word ").repeated(2'000'000), QString(10'000'000, 'w'),
                                 QString(10'000'000, '\n'), QString(1'000, 'w')}) {
