@@ -44,15 +44,18 @@ QAction *helpActionOf(const QObject *page)
 
 void giveHelpAction(QWidget *page, const QObject *connector)
 {
-    if (helpActionOf(page) != nullptr)
-        return;
-    auto *const action = new QAction(page);
-    action->setObjectName(helpActionName(page));
-    // Of the window: the key works wherever the focus is, as long as the page is shown.
-    action->setShortcut(Qt::Key_F1);
-    action->setShortcutContext(Qt::WindowShortcut);
-    page->addAction(action);
-    QObject::connect(action, SIGNAL(triggered()), connector, SLOT(sl_onHelpRequested()));
+    QAction *action = helpActionOf(page);
+    if (action == nullptr) {
+        action = new QAction(page);
+        action->setObjectName(helpActionName(page));
+        // Of the window: the key works wherever the focus is, as long as the page is shown.
+        action->setShortcut(Qt::Key_F1);
+        action->setShortcutContext(Qt::WindowShortcut);
+        page->addAction(action);
+    }
+    // Unique: the connector may be another one than last time.
+    QObject::connect(action, SIGNAL(triggered()), connector, SLOT(sl_onHelpRequested()),
+                     Qt::UniqueConnection);
 }
 
 void showTitle(QTreeWidgetItem &item, const QString &title)
