@@ -59,6 +59,9 @@ def main():
         return SKIPPED
     with tempfile.TemporaryDirectory() as directory:
         server, environment = start(directory)
+        # Qt's plugins and their libraries leak at exit; without a window system the same program is checked for leaks.
+        sanitizer = os.environ.get("ASAN_OPTIONS", "")
+        environment["ASAN_OPTIONS"] = ":".join(filter(None, [sanitizer, "detect_leaks=0"]))
         try:
             return subprocess.run([program], env={**os.environ, **environment}, check=False).returncode
         finally:
