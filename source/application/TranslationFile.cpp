@@ -12,7 +12,7 @@ namespace PYXRuntime {
 namespace {
 
 const QLatin1String Suffix(".qm");
-constexpr qint64 MaximumFileSize = 64 * 1024 * 1024;
+constexpr qint64 MaximumFileSize = 64LL * 1024 * 1024;
 // Real files name a handful of others, which name none; one that names itself must end somewhere.
 constexpr int MaximumDepth = 1;
 constexpr int MaximumDependencies = 32;
@@ -100,11 +100,11 @@ bool TranslationFile::isEmpty() const
 QString TranslationFile::translate(const char *context, const char *sourceText, const char *disambiguation,
                                    int n) const
 {
-    const QString text = QTranslator::translate(context, sourceText, disambiguation, n);
+    QString text = QTranslator::translate(context, sourceText, disambiguation, n);
     if (!text.isNull())
         return text;
     for (const auto &dependency : m_dependencies) {
-        const QString found = dependency->translate(context, sourceText, disambiguation, n);
+        QString found = dependency->translate(context, sourceText, disambiguation, n);
         if (!found.isNull())
             return found;
     }
