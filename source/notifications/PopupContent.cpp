@@ -137,8 +137,8 @@ void PopupContent::paint(QPainter *painter, const QWidget *widget) const
 {
     // Window and its text are the one pair that every palette keeps apart; tool-tip colours are not.
     const QPalette palette = widget->palette();
-    const QColor ground = palette.color(QPalette::Active, QPalette::Window);
-    const QColor ink = palette.color(QPalette::Active, QPalette::WindowText);
+    const QColor &ground = palette.color(QPalette::Active, QPalette::Window);
+    const QColor &ink = palette.color(QPalette::Active, QPalette::WindowText);
     const QRect box(QPoint(), widget->size());
 
     painter->setRenderHint(QPainter::Antialiasing);
@@ -159,7 +159,7 @@ void PopupContent::paint(QPainter *painter, const QWidget *widget) const
     for (const struLine &each : m_lines) {
         line.setHeight(m_lineHeight);
         painter->setLayoutDirection(each.bRightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
-        painter->drawText(line, Qt::TextSingleLine | Qt::AlignVCenter | Qt::AlignLeft, each.text);
+        painter->drawText(line, int(Qt::TextSingleLine) | int(Qt::AlignVCenter | Qt::AlignLeft), each.text);
         line.translate(0, m_lineHeight);
     }
 }
