@@ -44,7 +44,7 @@ private:
     }
     QString openedNow()
     {
-        const QString opened = m_opened.join(',');
+        QString opened = m_opened.join(',');
         m_opened.clear();
         return opened;
     }

@@ -261,8 +261,8 @@ void tst_PYXTransConnectorImpl::modules()
     QCOMPARE(module.loads, 1);
     const auto text = [] { return QCoreApplication::translate("PYXExtra", "en"); };
     {
-        const PYXTranslatableModuleImpl copy(module); // has nothing loaded, so nothing goes with it
-        QCOMPARE(copy.getModuleBaseName(), QString("PYXExtra"));
+        // A copy has nothing loaded, so nothing goes with it.
+        QCOMPARE(PYXTranslatableModuleImpl(module).getModuleBaseName(), QString("PYXExtra"));
         PYXTranslatableModuleImpl assigned("PYXPlugin", m_directory->path());
         QVERIFY(assigned.loadTranslations("de", false));
         assigned = module;
@@ -318,7 +318,7 @@ void tst_PYXTransConnectorImpl::nobodySeesAMixture()
             memoryBefore = memoryInUse();
     }
     // The allocator's own bookkeeping varies; the smallest object kept from each of the 800 changes takes 32.
-    QVERIFY2(memoryInUse() < memoryBefore + 800 * 16 || memoryBefore == 0,
+    QVERIFY2(memoryInUse() < memoryBefore + 800UL * 16 || memoryBefore == 0,
              qPrintable(QString::number(memoryBefore)));
 }
 
