@@ -278,8 +278,10 @@ void tst_PYXNotification::tracersMayAsk()
 
 void tst_PYXNotification::threadsMayAsk()
 {
+    constexpr int Threads = 4;
     std::vector<std::thread> threads;
-    for (int i = 0; i < 4; ++i) {
+    threads.reserve(Threads);
+    for (int i = 0; i < Threads; ++i) {
         threads.emplace_back([i] {
             const QString own = QString::number(i);
             for (int k = 0; k < 100; ++k) {

@@ -362,6 +362,7 @@ void tst_PYXPopupNotification::queuesFromFourThreads()
     Window window;
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     std::vector<std::thread> threads;
+    threads.reserve(Threads);
     for (int i = 0; i < Threads; ++i) {
         threads.emplace_back([i] {
             for (int k = 0; k < PerThread; ++k) // one of them makes the singleton
