@@ -61,7 +61,8 @@ void PYXAppInternalsImpl_private::_sl_checkInterface()
     if (owner == nullptr || pyxInterfaceCast<PYXIAppInternals>(owner) != nullptr)
         return;
     PYXTraceWrapper::staticTraceWarn(
-        QLatin1String("nobody will find the application modes: PYXIAppInternals is not implemented by ") +
+        QLatin1String(
+            "nobody will find the application modes: the registered object lacks PYXIAppInternals: ") +
             QLatin1String(owner->metaObject()->className()),
         TraceFile, __LINE__);
 }
