@@ -301,16 +301,19 @@ void PYXSettingsDialog::_refill(const QList<PYXSettingsHandlerWidget *> &pages, 
     if (m_settings == nullptr)
         return;
     m_bCollectingChanges = true;
+    const QPointer<PYXSettingsDialog> self(this);
     const auto guardedPages = guarded(pages);
     for (const auto &page : guardedPages) {
         if (page.isNull())
             continue;
         page->setIgnoreModified(true);
         (page->*refill)();
-        if (page.isNull())
-            continue;
-        page->setIgnoreModified(false);
-        page->sl_modified();
+        if (!page.isNull())
+            page->setIgnoreModified(false);
+        if (!page.isNull())
+            page->sl_modified();
+        if (self.isNull())
+            return;
     }
     m_bCollectingChanges = false;
     _sl_pageCleanStateChanged();
