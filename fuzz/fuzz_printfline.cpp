@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The PYXRuntime developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
 
-// Bytes are a trace text that printf mode takes as a format. Without a conversion the text stays as it is, and no
-// conversion prints more than printf's own limit allows.
+// Bytes are a trace text that printf mode takes as a format. Without a conversion the text stays as it is,
+// and no conversion prints more than printf's own limit allows.
 
 #include "PrintfLine.h"
 

@@ -78,8 +78,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     Map again;
     require(XmlSettingsReader::readAnyXml(first, again));
     require(again.keys() == writtenKeys(map));
-    // Qt does not stream everything as it was read: a gradient sorts stops at NaN anew each time.
-    if (!first.contains("@Variant("))
+    // An entry that was given a name has another place the next time, and Qt does not stream everything as it
+    // was read: a gradient sorts stops at NaN anew each time.
+    if (again.keys() == map.keys() && !first.contains("@Variant("))
         require(written(again) == first);
     return 0;
 }
