@@ -21,6 +21,9 @@ if(NOT EMULATOR)
     set(ENV{XDG_CACHE_HOME} "${home}/cache")
     set(ENV{XDG_RUNTIME_DIR} "${home}/run")
     set(ENV{TMPDIR} "${home}/tmp")
+    # Nor is the user's secret store asked.
+    unset(ENV{DBUS_SESSION_BUS_ADDRESS})
+    unset(ENV{DISPLAY})
 endif()
 execute_process(COMMAND ${EMULATOR} ${PROGRAM} TIMEOUT 100
     RESULT_VARIABLE result OUTPUT_VARIABLE output ECHO_OUTPUT_VARIABLE)
