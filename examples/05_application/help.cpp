@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: BSD-3-Clause
 //
 // F1 opens the help at the page of the widget that has the focus.
+#include <PYXBroker.h>
 #include <PYXHelpConnectorImpl.h>
 #include <PYXRuntime.h>
 
@@ -11,10 +12,11 @@
 #include <QFormLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTextStream>
 
-using PYXRuntime::PYXHelpConnectorImpl;
+using namespace PYXRuntime;
 
 namespace {
 
@@ -31,13 +33,13 @@ void writeHelp(const QString &directory)
     write(directory + "/index.html", "<h1>Receiver</h1>");
     write(directory + "/window.html", "<h2 id='gain'>Gain</h2>");
     write(directory + "/help.xml", R"(<HelpEntries start="index.html">
+    <Entry context="ReceiverWindow" page="window.html"/>
     <Entry context="ReceiverWindow::Gain" page="window.html#gain"/>
 </HelpEntries>
 )");
 }
 
-/** Takes the pages that the system's browser would get, as an application with a help window of its own does.
- */
+/** An application with a help window of its own takes the pages that the system's browser would get. */
 class HelpWindow : public QObject
 {
     Q_OBJECT
@@ -69,7 +71,7 @@ int main(int argc, char **argv)
     QApplication application(argc, argv);
     QApplication::setOrganizationName("Example");
     QApplication::setApplicationName("05 Help");
-    PYXRuntime::initialize_PYXRuntime();
+    initialize_PYXRuntime();
 
     const QTemporaryDir directory;
     writeHelp(directory.path());
@@ -80,19 +82,25 @@ int main(int argc, char **argv)
     auto *gain = new QLineEdit;
     gain->setProperty(PYXHelpConnectorImpl::ContextProperty, "ReceiverWindow::Gain");
     auto *name = new QLineEdit; // has no page: its parents' count, and in the end the start page
+    auto *button = new QPushButton("Help");
+    button->setObjectName("ReceiverWindow");
+    auto *helpConnector = PYXBroker::getInstance()->topObject<PYXIHelpConnector>();
+    QObject::connect(button, &QPushButton::clicked, helpConnector, &PYXIHelpConnector::sl_onHelpRequested);
     auto *form = new QFormLayout(&window);
     form->addRow("&Gain:", gain);
     form->addRow("&Name:", name);
+    form->addRow(button);
     window.show();
 
     if (QApplication::arguments().contains("--quit")) {
         pressF1(gain);
         pressF1(name);
+        button->click();
         window.close();
     } else {
         QApplication::exec();
     }
-    PYXRuntime::uninitialize_PYXRuntime();
+    uninitialize_PYXRuntime();
     return 0;
 }
 

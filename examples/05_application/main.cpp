@@ -25,7 +25,7 @@ public:
     {
         if (code != eApplicationResultsDir)
             return PYXApplicationInfoImpl::getSpecialDirPath(code, create);
-        const QString path = getSpecialDirPath(eApplicationUserPublicDataBaseDir, false) + "/measurements";
+        QString path = getSpecialDirPath(eApplicationUserPublicDataBaseDir, false) + "/measurements";
         if (create)
             createPath(path);
         return path;

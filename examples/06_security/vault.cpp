@@ -26,7 +26,7 @@ public:
     QByteArray encrypt(const QString &plain) override
     {
         QByteArray bytes = plain.toUtf8();
-        const QByteArray cipher = askVault(bytes);
+        QByteArray cipher = askVault(bytes);
         PYXByteArrayHelpers::safeOverwriteAndClear(bytes); // of a plain text nothing stays behind
         return cipher;
     }
@@ -34,7 +34,7 @@ public:
     QString decryptToQString(const QByteArray &cipher) override
     {
         QByteArray bytes = askVault(cipher);
-        const QString plain = QString::fromUtf8(bytes);
+        QString plain = QString::fromUtf8(bytes);
         PYXByteArrayHelpers::safeOverwriteAndClear(bytes);
         return plain;
     }

@@ -21,9 +21,9 @@ namespace {
 bool record(const QString &directory)
 {
     PYXRetainingFileSet recording;
-    recording.setBaseDirectory(directory);         // must exist
-    recording.setBaseFileName("antenna2.iq");      // antenna2_2026-11-21_07-20-00_UTC.iq and so on
-    recording.setMaximumWeightPerFile(128 * 1024); // a file ends with the write that reaches this
+    recording.setBaseDirectory(directory);      // must exist
+    recording.setBaseFileName("antenna2.iq");   // antenna2_2026-11-21_07-20-00_UTC.iq and so on
+    recording.setMaximumWeightPerFile(131'072); // a file ends with the write that reaches this
     recording.setMaximumNumberOfFiles(3);
     recording.setRegisterWrittenFiles(true);
     recording.setRegisterFileType(PYXIFileList::ekFT_RECORDING);

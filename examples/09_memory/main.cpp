@@ -20,7 +20,7 @@ using Frame = QSharedPointer<PYXMemoryBlock>;
 
 namespace {
 
-constexpr quint64 FrameBytes = 64 * 1024;
+constexpr quint64 FrameBytes = 65'536;
 constexpr int Frames = 1000;
 
 class FrameQueue

@@ -17,13 +17,11 @@ namespace {
 
 bool mayStop(QWidget *parent)
 {
-    const auto answer = PYXNotification::question(
-        parent, "Recorder",
-        "The station is still being received. Stop the recording all the same?", // with tr()
-        "Recorder", "StopWhileReceiving",                                        // which message this is
-        QDialogButtonBox::Yes | QDialogButtonBox::No, QDialogButtonBox::No);
-    return answer ==
-           QDialogButtonBox::Yes; // Escape gives NoButton: name the button that lets something happen
+    const auto answer =
+        PYXNotification::question(parent, "Recorder", "The station can still be heard. Stop all the same?",
+                                  "Recorder", "StopWhileReceiving", // which message this is
+                                  QDialogButtonBox::Yes | QDialogButtonBox::No, QDialogButtonBox::No);
+    return answer == QDialogButtonBox::Yes; // not "!= No": Escape gives NoButton
 }
 
 bool willAsk()

@@ -45,9 +45,8 @@ int main(int argc, char **argv)
     {
         PYXAppInternalsSimple internals;            // has read the arguments
         internals.initialize_PYXAppInternalsImpl(); // now the broker knows it
-        for (const QString &file :
-             internals.cmdLineArgs_withoutStandard().mid(1)) // without those of the modes
-            QTextStream(stdout) << "opens " << file << '\n';
+        QTextStream(stdout) << "arguments without those of modes: "
+                            << internals.cmdLineArgs_withoutStandard().mid(1).join(' ') << '\n';
 
         Window window(internals);
         window.show();
