@@ -31,9 +31,12 @@ int watch()
         QTextStream(stdout) << "changed by another process: " << keys.join(", ") << '\n';
         QApplication::quit();
     });
+    QProcess other;
     if (QApplication::arguments().contains("--quit"))
-        QProcess::startDetached(QApplication::applicationFilePath(), {"--change"});
-    return QApplication::exec();
+        other.start(QApplication::applicationFilePath(), {"--change"});
+    const int result = QApplication::exec();
+    other.waitForFinished();
+    return result;
 }
 
 } // namespace

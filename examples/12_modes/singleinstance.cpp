@@ -48,9 +48,11 @@ int main(int argc, char **argv)
                          if (QApplication::arguments().contains("--quit"))
                              QApplication::quit();
                      });
+    QProcess second;
     if (QApplication::arguments().contains("--quit"))
-        QProcess::startDetached(QApplication::applicationFilePath(), {"recording.wav"});
+        second.start(QApplication::applicationFilePath(), {"recording.wav"});
     const int exitCode = QApplication::exec();
+    second.waitForFinished();
     instance.stop(); // who is started from now on is not kept waiting
     PYXRuntime::uninitialize_PYXRuntime();
     return exitCode;
