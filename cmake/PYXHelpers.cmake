@@ -26,6 +26,10 @@ function(pyx_add_room)
     target_include_directories(PYXRuntime PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")
 endfunction()
 
+# Of every program that is run by the tests: no display, and what the sanitizers need.
+set(PYX_TEST_ENVIRONMENT
+    "QT_QPA_PLATFORM=offscreen;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp;ASAN_OPTIONS=allocator_may_return_null=1;TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/tsan.supp halt_on_error=0 allocator_may_return_null=1;UBSAN_OPTIONS=halt_on_error=1 print_stacktrace=1")
+
 # Registers the test program tst_<name>.cpp of a room.
 #   pyx_add_test(name [THREADS] [SOURCES internal sources under test...] [INCLUDES their directories...]
 #                [LIBRARIES lib...] [TIMEOUT s])
@@ -45,8 +49,7 @@ function(pyx_add_test name)
     if(NOT ARG_TIMEOUT)
         set(ARG_TIMEOUT 120)
     endif()
-    set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT} ENVIRONMENT
-        "QT_QPA_PLATFORM=offscreen;LSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/lsan.supp;ASAN_OPTIONS=allocator_may_return_null=1;TSAN_OPTIONS=suppressions=${PROJECT_SOURCE_DIR}/tests/tsan.supp halt_on_error=0 allocator_may_return_null=1;UBSAN_OPTIONS=halt_on_error=1 print_stacktrace=1")
+    set_tests_properties(${name} PROPERTIES TIMEOUT ${ARG_TIMEOUT} ENVIRONMENT "${PYX_TEST_ENVIRONMENT}")
     if(ARG_THREADS)
         set_property(TEST ${name} APPEND PROPERTY LABELS threads)
         if(NOT TARGET thread_tests)

@@ -20,8 +20,9 @@ namespace PYXRuntime {
  *
  * A module registers its scope when it is loaded and keeps the token:
  * @code
- * namespace { const uint s_scope = PYXRuntime::PYXRuntimeCenter::registerRuntimeScope("Demodulator", "...");
- * } PYX_DEBUG(s_scope, QString("locked to %1 Hz").arg(frequency));
+ * const uint s_scope = PYXRuntimeCenter::registerRuntimeScope("Demodulator", "locks and levels");
+ * ...
+ * PYX_DEBUG(s_scope, QString("locked to %1 Hz").arg(frequency));
  * @endcode
  * Enabled messages go to the debugger channel and, where the matching global switch is on, to the trace,
  * with the scope's name as file and 0 as line.

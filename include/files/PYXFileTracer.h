@@ -40,7 +40,7 @@ public:
         QString baseFileName = QStringLiteral("trace.txt");
         quint64 maximumBytesPerFile = 10'485'760; ///< 10 MiB
         int maximumNumberOfFiles = 10;            ///< with the current one; 0: all are kept
-        QString componentName;    ///< registers the files with PYXIFileList, unless it is empty
+        QString componentName{};  ///< registers the files with PYXIFileList, unless it is empty
         bool bWriteDebug = false; ///< writes debug traces too, instead of holding them back
     };
 

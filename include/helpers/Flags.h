@@ -10,8 +10,8 @@ namespace PYXRuntime {
 /**
  * The table of flag types, beside Enums: a value of several bits to the names of the flags and back.
  * @code
- * Flags::namesOf("PYXRuntime::ePYXInitializeFlags", 0x6); //
- * "ekInitialize_NoFontSubstitution|ekInitialize_CondensedFont"
+ * // "ekInitialize_NoFontSubstitution|ekInitialize_CondensedFont"
+ * Flags::namesOf("PYXRuntime::ePYXInitializeFlags", 0x6);
  * @endcode
  * Initialising the library creates it with every flag type of the library. Threads as with Enums.
  */
