@@ -23,6 +23,8 @@ namespace PYXRuntime {
  *
  * The provider wipes what it makes of a plain text on the way. What Qt's digest leaves in freed memory of
  * its own is out of its reach.
+ *
+ * Any thread, but the default algorithm is only changed while nobody else encrypts.
  */
 class PYXRUNTIME_EXPORT SimpleEncryptionProvider : public QObject, public Interfaces::IPYXEncryptionProvider
 {
