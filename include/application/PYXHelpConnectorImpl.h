@@ -32,6 +32,8 @@ struct struHelpEntries;
  * @endcode
  * Where there is a "help_de.xml" beside "help.xml", it is used as long as the language is German. A file that
  * has changed is read again.
+ *
+ * Main thread only.
  */
 class PYXRUNTIME_EXPORT PYXHelpConnectorImpl final : public PYXIHelpConnector
 {
@@ -42,6 +44,7 @@ public:
 
     ~PYXHelpConnectorImpl() override;
 
+    /** Created on first use; shutting the library down destroys it. */
     static PYXHelpConnectorImpl *getInstance();
     static bool hasInstance();
     static void makeSureInitialized();

@@ -26,6 +26,8 @@ class LanguageChangeHold;
  *
  * During a change nobody sees a mixture: the application object gets one QEvent::LanguageChange, after
  * everything is loaded, and the widgets get theirs from it.
+ *
+ * Main thread only.
  */
 class PYXRUNTIME_EXPORT PYXTransConnectorImpl final : public PYXITransConnector
 {

@@ -14,7 +14,8 @@ namespace PYXRuntime {
 template <typename Interface>
 struct PYXBrokerInterface;
 
-/** An object seen as an interface: by the Qt interface id first, by a dynamic cast else. Null for null. */
+/** An object seen as an interface: by the Qt interface id first, by a dynamic cast else. Null for null.
+ * Any thread in which the object is known to live. */
 template <typename Interface>
 Interface *pyxInterfaceCast(QObject *object)
 {

@@ -7,7 +7,7 @@
 namespace PYXRuntime {
 
 /**
- * A registration with the broker that ends with this object. Movable; any thread.
+ * A registration with the broker that ends with this object. Movable; any thread, one at a time.
  * @code
  * class Demodulator : public QObject { ... PYXBrokerRegistration m_registration{id, 0, this}; };
  * @endcode

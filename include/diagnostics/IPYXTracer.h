@@ -13,8 +13,9 @@ namespace Interfaces {
  *
  * Every level comes in three forms: one text, a list of texts, and a trace text with a separate log text.
  * @p file and @p line name the caller; the file is only valid during the call. Calls come in whichever
- * thread traces, so an implementation must be safe for all of them. The order of the operations is part
- * of the binary contract.
+ * thread traces, so an implementation must be safe for all of them. They may come while a settings file is
+ * being read or written: a tracer that then uses the same store waits for itself, so let it use no settings.
+ * The order of the operations is part of the binary contract.
  */
 class IPYXTracer
 {

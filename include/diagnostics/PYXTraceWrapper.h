@@ -20,7 +20,8 @@ namespace PYXRuntime {
  *
  * @p file and @p line name the caller; file may be null. Usable before the library is initialised and
  * after it is shut down. Trace calls may come from any thread; tracers and switches are changed in one
- * thread (the main thread) while no trace call runs elsewhere.
+ * thread (the main thread) while no trace call runs elsewhere; getInstance() and tracer() are called there
+ * first. No lock is held while a tracer is called, but one of the caller may be, see IPYXTracer.
  */
 class PYXRUNTIME_EXPORT PYXTraceWrapper : public QObject, public PYXTracerBase
 {

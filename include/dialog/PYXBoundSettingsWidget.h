@@ -19,6 +19,7 @@ namespace PYXRuntime {
  *     binder().bind(lines, "Plots/Waterfall/LinesPerSecond", 25);
  * }
  * @endcode
+ * GUI thread only.
  */
 class PYXRUNTIME_EXPORT PYXBoundSettingsWidget : public PYXSettingsHandlerWidget
 {

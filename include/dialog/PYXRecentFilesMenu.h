@@ -17,7 +17,8 @@ namespace PYXRuntime {
  * connect(recent, &PYXRecentFilesMenu::si_fileChosen, this, &MainWindow::open);
  * recent->addFile(path); // whenever one has been opened
  * @endcode
- * Menus with one key, also those of other processes, show the same files when they are opened next.
+ * Menus with one key, also those of other processes, show the same files when they are opened next. GUI
+ * thread only.
  */
 class PYXRUNTIME_EXPORT PYXRecentFilesMenu final : public QMenu
 {

@@ -33,7 +33,7 @@ class SettingsDialogForm;
  * dialog.exec(settings, defaults);
  * @endcode
  * A registered page belongs to the dialog as its child. Window and splitter are remembered in the settings,
- * which can also hide buttons: see docs/dialog.md.
+ * which can also hide buttons: see docs/dialog.md. GUI thread only.
  */
 class PYXRUNTIME_EXPORT PYXSettingsDialog : public QDialog
 {

@@ -23,6 +23,7 @@ class PYXSettingsDialog;
  * controls to sl_modified(); PYXSettingsBinder does this for the usual controls.
  *
  * The dialog takes the page over when it is registered, and gives it back when it is unregistered.
+ * GUI thread only: all operations are called there.
  */
 class PYXRUNTIME_EXPORT PYXSettingsHandlerWidget : public QWidget
 {
@@ -55,7 +56,9 @@ public Q_SLOTS:
 public:
     /** Back to what is stored; calls initContents(). */
     virtual void resetContents();
+    /** The dialog has taken the page over; the base class keeps @p dialog for dialog(). */
     virtual void attachToDialog(PYXSettingsDialog *dialog);
+    /** The dialog gives the page back, or is being destroyed. */
     virtual void detachFromDialog();
     /**
      * Takes back what the page has done beside its controls, before the dialog is closed without applying.
@@ -100,6 +103,7 @@ protected:
     void setIcon(const QIcon &icon);
     QIcon icon() const;
 
+    /** Whether sl_modified() does nothing, as while the page fills its controls itself. */
     void setIgnoreModified(bool ignore);
 
     /** Whether the controls show something else than the stores hold; the opposite of isInCleanState(). */

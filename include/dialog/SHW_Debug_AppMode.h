@@ -17,6 +17,7 @@ namespace PYXRuntime {
  * connect(page, &SHW_Debug_AppMode::si_appModesApplied, this,
  *         [this](quint64 modes) { m_internals.overrideAppModes(modes); });
  * @endcode
+ * GUI thread only.
  */
 class PYXRUNTIME_EXPORT SHW_Debug_AppMode final : public PYXBoundSettingsWidget
 {

@@ -8,7 +8,7 @@ namespace PYXRuntime {
 
 class LiveTable;
 
-/** The page that shows what is registered with the broker. */
+/** The page that shows what is registered with the broker. GUI thread only. */
 class PYXRUNTIME_EXPORT SHW_Debug_Broker final : public PYXBoundSettingsWidget
 {
     Q_OBJECT

@@ -13,7 +13,7 @@ class LiveTable;
 
 /**
  * The page that shows all runtime scopes and switches their messages. A switch takes effect at once, until
- * the application ends: nothing is stored.
+ * the application ends: nothing is stored. GUI thread only.
  */
 class PYXRUNTIME_EXPORT SHW_Debug_RuntimeScopes final : public PYXBoundSettingsWidget
 {

@@ -10,7 +10,7 @@ class QLabel;
 namespace PYXRuntime {
 
 /** The settings page for the language of the application and the style of its widgets; both change on Apply.
- */
+ * GUI thread only. */
 class PYXRUNTIME_EXPORT SHW_General_Language final : public PYXBoundSettingsWidget
 {
     Q_OBJECT

@@ -10,7 +10,8 @@ class QTreeWidget;
 
 namespace PYXRuntime {
 
-/** The settings page for the messages that the user does not want to see any more: Apply brings them back. */
+/** The settings page for the messages that the user does not want to see any more: Apply brings them back.
+ * GUI thread only. */
 class PYXRUNTIME_EXPORT SHW_General_Messages final : public PYXBoundSettingsWidget
 {
     Q_OBJECT

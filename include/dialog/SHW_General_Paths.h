@@ -15,7 +15,8 @@ namespace PYXRuntime {
 
 /**
  * The settings page for directories: those that all applications share, and those that the application adds.
- * What has changed is found out on Apply, and file dialogs that are bound to a directory begin there.
+ * What has changed is found out on Apply, and file dialogs that are bound to a directory begin there. GUI
+ * thread only.
  */
 class PYXRUNTIME_EXPORT SHW_General_Paths final : public PYXBoundSettingsWidget
 {

@@ -14,7 +14,7 @@ namespace PYXRuntime {
 class NetworkEntriesModel;
 
 /** The settings page for a list of network peers, with a default one, and with import from and export to
- * files. */
+ * files. GUI thread only. */
 class PYXRUNTIME_EXPORT SHW_Network_Entries final : public PYXBoundSettingsWidget
 {
     Q_OBJECT

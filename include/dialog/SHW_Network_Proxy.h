@@ -20,7 +20,7 @@ namespace PYXRuntime {
 /**
  * The settings page for the proxy of the process; on Apply it is stored where PYXProxyManager looks for it,
  * with the password encrypted by the provider in effect, and put in force. The test tries sites through what
- * is being edited.
+ * is being edited. GUI thread only.
  */
 class PYXRUNTIME_EXPORT SHW_Network_Proxy final : public PYXBoundSettingsWidget
 {

@@ -12,7 +12,8 @@ namespace PYXRuntime {
 
 /**
  * The library's list of written files: the last 1000 that were registered. Nothing is kept on disk.
- * It is there, and known to the broker, from the first getInstance() until the library is shut down.
+ * It is there, and known to the broker, from the first getInstance() until the library is shut down. Main
+ * thread only.
  */
 class PYXRUNTIME_EXPORT PYXFileListImpl final : public PYXIFileList
 {

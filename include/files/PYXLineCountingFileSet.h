@@ -6,7 +6,7 @@
 
 namespace PYXRuntime {
 
-/** A set of files that moves on after a number of line ends. */
+/** A set of files that moves on after a number of line ends. Threads as with PYXCountingFileSet. */
 class PYXRUNTIME_EXPORT PYXLineCountingFileSet : public PYXCountingFileSet
 {
     Q_OBJECT

@@ -12,7 +12,8 @@ namespace PYXRuntime {
  * The second file of a second is called "trace_2018-03-01_12-00-05_UTC_002.log.txt". Each time a file is
  * opened, files of this set that are too many or too large are deleted, the oldest first; files that earlier
  * runs have left under the same base file name count too. So two sets that limit their files must not share
- * directory and base file name. A file that cannot be deleted is tried again the next time.
+ * directory and base file name. A file that cannot be deleted is tried again the next time. Threads as with
+ * PYXCountingFileSet.
  */
 class PYXRUNTIME_EXPORT PYXRetainingFileSet : public PYXCountingFileSet
 {

@@ -6,7 +6,8 @@
 
 namespace PYXRuntime {
 
-/** A set of files that moves on after a number of bytes (as they were handed over, in text mode too). */
+/** A set of files that moves on after a number of bytes (as they were handed over, in text mode too). Threads
+ * as with PYXCountingFileSet. */
 class PYXRUNTIME_EXPORT PYXSizeCountingFileSet : public PYXCountingFileSet
 {
     Q_OBJECT

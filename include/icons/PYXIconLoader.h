@@ -20,10 +20,11 @@ namespace PYXRuntime {
 
 class IconDirectories;
 
-/** The words for modes and states in the names of image files: "normal", "disabled", "on" and so on. */
+/** The words for modes and states in the names of image files: "normal", "disabled", "on" and so on. Any
+ * thread. */
 PYXRUNTIME_EXPORT QHash<QIcon::Mode, QString> _iconModeNames();
 PYXRUNTIME_EXPORT QHash<QIcon::State, QString> _iconStateNames();
-/** "unknown" for a value that has no name. */
+/** "unknown" for a value that has no name. Any thread. */
 PYXRUNTIME_EXPORT QString _iconModeName(QIcon::Mode mode);
 PYXRUNTIME_EXPORT QString _iconStateName(QIcon::State state);
 

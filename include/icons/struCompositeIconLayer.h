@@ -34,7 +34,7 @@ struct struIconIdModeState
     QIcon::State state = QIcon::Off;
 };
 
-/** One layer of a composite icon. */
+/** One layer of a composite icon. Holds an icon, so it belongs to the GUI thread. */
 struct struCompositeIconLayer
 {
     uint iconId = 0; ///< the registered icon; only where @ref icon is empty

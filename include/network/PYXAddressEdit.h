@@ -20,7 +20,7 @@ class AddressEditValidator;
  * When the edit is left, what is missing is filled in and the address gets its canonical form: IPv4 numbers
  * are decimal, so "010.1.2.3" becomes "10.1.2.3".
  *
- * Without an accessible name or a label that is its buddy, the edit names itself.
+ * Without an accessible name or a label that is its buddy, the edit names itself. GUI thread only.
  */
 class PYXRUNTIME_EXPORT PYXAddressEdit : public QLineEdit
 {

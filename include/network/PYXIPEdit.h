@@ -6,7 +6,7 @@
 
 namespace PYXRuntime {
 
-/** Edits an address of a protocol that can be switched; begins with IPv4. */
+/** Edits an address of a protocol that can be switched; begins with IPv4. GUI thread only. */
 class PYXRUNTIME_EXPORT PYXIPEdit final : public PYXAddressEdit
 {
     Q_OBJECT

@@ -6,7 +6,7 @@
 
 namespace PYXRuntime {
 
-/** Edits an IPv4 address. */
+/** Edits an IPv4 address. GUI thread only. */
 class PYXRUNTIME_EXPORT PYXIPv4Edit final : public PYXAddressEdit
 {
     Q_OBJECT

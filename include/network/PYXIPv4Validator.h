@@ -11,6 +11,7 @@ namespace PYXRuntime {
 /**
  * Accepts a dotted IPv4 address while it is typed. Numbers are decimal, also with leading zeros. A missing
  * or too large number is Intermediate, so that it can be completed or corrected.
+ * Has no state: validate() and fixup() may be called in any thread.
  */
 class PYXRUNTIME_EXPORT PYXIPv4Validator final : public QValidator
 {

@@ -6,7 +6,7 @@
 
 namespace PYXRuntime {
 
-/** Edits an IPv6 address. */
+/** Edits an IPv6 address. GUI thread only. */
 class PYXRUNTIME_EXPORT PYXIPv6Edit final : public PYXAddressEdit
 {
     Q_OBJECT

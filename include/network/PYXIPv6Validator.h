@@ -11,6 +11,7 @@ namespace PYXRuntime {
 /**
  * Accepts an IPv6 address while it is typed: with "::", a dotted IPv4 address at its end, and a scope
  * ("%eth0"). A missing or too long group is Intermediate, so that it can be completed or corrected.
+ * Has no state: validate() and fixup() may be called in any thread.
  */
 class PYXRUNTIME_EXPORT PYXIPv6Validator final : public QValidator
 {

@@ -11,7 +11,10 @@
 
 namespace PYXRuntime {
 
-/** A network peer as the user keeps it: name, address, identity, and where it stands and looks. */
+/**
+ * A network peer as the user keeps it: name, address, identity, and where it stands and looks. A value:
+ * different objects may be used in different threads.
+ */
 class PYXRUNTIME_EXPORT PYXNetworkEntry final
 {
 public:
@@ -28,6 +31,7 @@ public:
     /** Degrees. */
     double latitude() const { return m_latitude; }
     double longitude() const { return m_longitude; }
+    /** In the application's unit; the library only keeps it. */
     double altitude() const { return m_altitude; }
     bool hasDirection() const { return m_bHasDirection; }
     bool useDirection() const { return m_bUseDirection; }

@@ -15,6 +15,8 @@ namespace PYXRuntime {
  *
  * The keys say under which names the values are kept; a value whose key is empty is neither saved nor
  * restored. Directions are restored, never saved.
+ *
+ * A value: different objects may be used in different threads, each with settings of its own thread.
  */
 class PYXRUNTIME_EXPORT PYXNetworkEntryList : public QList<PYXNetworkEntry>
 {

@@ -39,10 +39,14 @@ PYXRUNTIME_EXPORT bool initialize_PYXRuntime(ePYXInitializeFlags flags = ekIniti
 /** Drops one reference; the last one cleans up. Main thread, before the QApplication goes. */
 PYXRUNTIME_EXPORT void uninitialize_PYXRuntime();
 
+/**
+ * Whether references are open, also while the first initialisation is still at work. Any thread, as the
+ * count.
+ */
 PYXRUNTIME_EXPORT bool isInitialized_PYXRuntime();
-/** Number of open references. */
+/** Number of open references; negative where more were dropped than taken. */
 PYXRUNTIME_EXPORT int initializitationCount_PYXRuntime();
-/** Flags of the last first initialisation; they outlive the shutdown. */
+/** Flags of the last first initialisation; they outlive the shutdown. Main thread, as the result. */
 PYXRUNTIME_EXPORT ePYXInitializeFlags initializationFlags_PYXRuntime();
 /** True since an initialisation has run to its end; outlives the shutdown. */
 PYXRUNTIME_EXPORT bool initializationResult_PYXRuntime();
@@ -96,11 +100,11 @@ PYXRUNTIME_EXPORT quint64 currentUTCInMyS();
 /** The same in milliseconds. */
 PYXRUNTIME_EXPORT quint64 currentUTCInMS();
 
-/** The text with <, >, & and " replaced by HTML entities. */
+/** The text with <, >, & and " replaced by HTML entities. Any thread. */
 PYXRUNTIME_EXPORT QString htmlEscape(const QString &text);
 
 /**
- * Loads a library of the application family by its base name, e.g. "PYXCharts".
+ * Loads a library of the application family by its base name, e.g. "PYXCharts". Any thread, as the next one.
  * @return null if it cannot be loaded; else an object that the caller owns.
  */
 PYXRUNTIME_EXPORT QLibrary *getReferenceOnProjectDLL(const QString &name);

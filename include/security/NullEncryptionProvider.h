@@ -7,7 +7,7 @@
 
 namespace PYXRuntime {
 
-/** The encryption provider "Null": stores secrets as they are. Results are deep copies. */
+/** The encryption provider "Null": stores secrets as they are. Results are deep copies. Any thread. */
 class PYXRUNTIME_EXPORT NullEncryptionProvider : public QObject, public Interfaces::IPYXEncryptionProvider
 {
     Q_OBJECT

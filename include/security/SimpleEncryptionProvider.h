@@ -15,7 +15,7 @@ namespace PYXRuntime {
  * with PYXEncryptionManager to protect something.
  *
  * A container is the Base64 text of a record of the plain text's digest and the plain text XORed with it;
- * docs/security.md has its layout. Two checksums notice damage, nothing notices a forgery.
+ * docs/secret-container.md has its layout. Two checksums notice damage, nothing notices a forgery.
  *
  * Algorithms have the numbers of QCryptographicHash::Algorithm, 0 (MD4) to 10 (Keccak-512); any other
  * number means the default algorithm, which is 1 (MD5) until it is changed. Any algorithm's container can
@@ -23,6 +23,8 @@ namespace PYXRuntime {
  *
  * The provider wipes what it makes of a plain text on the way. What Qt's digest leaves in freed memory of
  * its own is out of its reach.
+ *
+ * Any thread, but the default algorithm is only changed while nobody else encrypts.
  */
 class PYXRUNTIME_EXPORT SimpleEncryptionProvider : public QObject, public Interfaces::IPYXEncryptionProvider
 {

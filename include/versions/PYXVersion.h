@@ -19,6 +19,7 @@ namespace PYXRuntime {
  *
  * A text is searched for three numbers, "4.2_7" or "4.2.7", and an optional fourth, "4.2.7.1"; what is before
  * and after does not matter. A number above 65535 reads as 0. Comparison is by the packed value alone.
+ * A value: different objects may be used in different threads.
  */
 class PYXRUNTIME_EXPORT PYXVersion final
 {

@@ -5,6 +5,7 @@
 #include "BrokerTable.h"
 #include "DataMutex.h"
 #include "PYXInterfaceIdentifiers.h"
+#include "PYXStringHelpers.h"
 #include "SingletonHolder.h"
 #include "StandardApplicationInfo.h"
 
@@ -211,7 +212,8 @@ QObject *PYXBroker::_waitWithEvents(const QUuid &id, uint name, QDeadlineTimer d
 void PYXBroker::declareInterface(const QUuid &id, const QString &name)
 {
     const Locker locker(d->interfacesLock);
-    d->interfaces.insert(id, name);
+    // A literal of a plug-in is gone when it is unloaded.
+    d->interfaces.insert(id, PYXStringHelpers::trueCopy(name));
 }
 
 QString PYXBroker::declaredInterface(const QUuid &id) const

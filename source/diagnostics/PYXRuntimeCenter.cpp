@@ -3,6 +3,7 @@
 #include "PYXRuntimeCenter.h"
 
 #include "PYXMessageOutput.h"
+#include "PYXStringHelpers.h"
 #include "PYXTraceWrapper.h"
 #include "SingletonHolder.h"
 
@@ -70,15 +71,17 @@ void PYXRuntimeCenter::destroyInstance()
 
 uint PYXRuntimeCenter::registerRuntimeScope(const QString &name, const QString &purpose)
 {
+    // Literals of a plug-in are gone when it is unloaded.
+    const QString kept = PYXStringHelpers::trueCopy(name);
     PYXRuntimeCenter *const center = getInstance();
     const WriteLocker locker(center->m_lock);
     const uint token = qHash(name, 0);
     const bool bKnown = center->m_tokens.contains(name);
-    center->m_tokens.insert(name, token);
+    center->m_tokens.insert(kept, token);
     RuntimeScope &scope = center->m_scopes[token];
-    scope.name = name;
+    scope.name = kept;
     scope.latin1Name = name.toLatin1();
-    scope.purpose = purpose;
+    scope.purpose = PYXStringHelpers::trueCopy(purpose);
     if (!bKnown) {
         _switchDebug(token, scope, center->m_bDebugDefault);
         scope.warningEnabled = center->m_bWarningDefault;

@@ -76,6 +76,12 @@ void tst_PYXRuntimeCenter::scopesAreKnownByNameAndToken()
     Center::setEnabled_pyxDebug(true);
     Center::setEnabled_pyxWarning(false);
     QCOMPARE(switchesOf(Center::registerRuntimeScope("Late", "")), QString("d"));
+    // A plug-in takes its literals with it when it is unloaded.
+    QChar literal[] = {'P', 'l', 'u', 'g'};
+    const uint plugged = Center::registerRuntimeScope(QString::fromRawData(literal, 4), "");
+    std::fill(std::begin(literal), std::end(literal), QChar('?'));
+    QCOMPARE(Center::runtimeScopeName(plugged), QString("Plug"));
+    QCOMPARE(Center::runtimeScopeToken("Plug"), plugged);
 }
 
 void tst_PYXRuntimeCenter::scopesInOneGateSlotSwitchApart()

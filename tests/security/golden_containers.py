@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: 2026 The PYXRuntime developers
 # SPDX-License-Identifier: LGPL-3.0-or-later
-"""Prints the containers that tst_SimpleEncryptionProvider expects, made from docs/security.md alone.
+"""Prints the containers that tst_SimpleEncryptionProvider expects, made from docs/secret-container.md alone.
 
 Digests that Python lacks come from python3-pycryptodome: MD4 and Keccak with the padding of before SHA-3.
 """
