@@ -8,6 +8,7 @@
 #include "SoakReport.h"
 
 #include <LocaleFollower.h>
+#include <LogDock.h>
 #include <MainWindow.h>
 #include <SignalMonitor.h>
 
@@ -102,7 +103,7 @@ void addTables(SoakReport &report, const MainWindow &window, const SoakDriver &d
     });
     add("stations", 200, [&] { return rowsOf(window, "stationTable"); });
     add("signals", 50, [&] { return rowsOf(window, "detectionTable"); });
-    add("lines of the log", 1000,
+    add("lines of the log", BandMonitor::LogDock::MaximumLines,
         [&] { return double(window.findChild<QPlainTextEdit *>(QStringLiteral("logView"))->blockCount()); });
 }
 

@@ -1,26 +1,25 @@
 // SPDX-FileCopyrightText: 2026 The PYXRuntime developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "ProcessFigures.h"
+#pragma once
 
 #include <QtCore/QDir>
 #include <QtCore/QFile>
 
 #include <malloc.h>
+#ifdef __SANITIZE_ADDRESS__
+#include <sanitizer/allocator_interface.h>
+#endif
 
-namespace {
+/** What the system says of this process (Linux). */
+namespace ProcessFigures {
 
-constexpr double KiB = 1024;
-
-int entriesOf(const QString &directory)
+struct struMemory
 {
-    return QDir(directory)
-        .entryList(QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot)
-        .size();
-}
+    double residentKiB = 0;
+    double privateDirtyKiB = 0; ///< what would not be there without this process
+};
 
-} // namespace
-
-ProcessFigures::struMemory ProcessFigures::memory()
+inline struMemory memory()
 {
     struMemory memory;
     QFile file(QStringLiteral("/proc/self/smaps_rollup"));
@@ -37,19 +36,34 @@ ProcessFigures::struMemory ProcessFigures::memory()
     return memory;
 }
 
-double ProcessFigures::heapInUse()
+/** What the heap has handed out and not got back, in KiB. */
+inline double heapInUse()
 {
+    constexpr double KiB = 1024;
+#ifdef __SANITIZE_ADDRESS__
+    return double(__sanitizer_get_current_allocated_bytes()) / KiB;
+#else
     const struct mallinfo2 info = mallinfo2();
     return double(info.uordblks + info.hblkhd) / KiB;
+#endif
 }
 
-int ProcessFigures::descriptors()
+inline int entriesOf(const QString &directory)
+{
+    return QDir(directory)
+        .entryList(QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot)
+        .size();
+}
+
+inline int descriptors()
 {
     // Without the one that the list itself takes.
     return entriesOf(QStringLiteral("/proc/self/fd")) - 1;
 }
 
-int ProcessFigures::threads()
+inline int threads()
 {
     return entriesOf(QStringLiteral("/proc/self/task"));
 }
+
+} // namespace ProcessFigures
