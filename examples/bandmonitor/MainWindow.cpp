@@ -295,14 +295,14 @@ bool MainWindow::openRecording(const QString &path)
     m_path = path;
     if (m_bKeepSettings)
         RecentRecordings::add(path);
-    _setSource(std::move(recording));
+    play(std::move(recording));
     return true;
 }
 
 void MainWindow::openOwnBand()
 {
     m_path.clear();
-    _setSource(std::make_unique<BandGenerator>(BandGenerator::ownBand()));
+    play(std::make_unique<BandGenerator>(BandGenerator::ownBand()));
 }
 
 void MainWindow::joinNetworks()
@@ -318,7 +318,7 @@ void MainWindow::_restart()
         openRecording(m_path);
 }
 
-void MainWindow::_setSource(std::unique_ptr<SampleSource> source)
+void MainWindow::play(std::unique_ptr<SampleSource> source)
 {
     if (m_recorder)
         m_recorder->setMonitor(nullptr); // lets go of the samples before their pool goes

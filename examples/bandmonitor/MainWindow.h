@@ -42,6 +42,8 @@ public:
     /** Shows a message and goes on with what is played already where the file is no recording. */
     bool openRecording(const QString &path);
     void openOwnBand();
+    /** Whatever makes samples: a receiver, another program. */
+    void play(std::unique_ptr<SampleSource> source);
     /** Begins to announce itself on the networks of this host, and to listen to others. */
     void joinNetworks();
     void setPlaying(bool bPlaying);
@@ -68,7 +70,6 @@ private Q_SLOTS:
 private:
     void _createDocks();
     void _createActions();
-    void _setSource(std::unique_ptr<SampleSource> source);
     void _restart();
     void _showDetections();
     void _showState();

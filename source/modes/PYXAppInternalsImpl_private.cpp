@@ -23,7 +23,11 @@ constexpr int LogDelayMs = 10'000;
 PYXAppInternalsImpl_private::PYXAppInternalsImpl_private(PYXAppInternalsImpl *internals)
     : m_internals(internals)
 {
-    QTimer::singleShot(LogDelayMs, this, &PYXAppInternalsImpl_private::_sl_logAppMode);
+    // Goes with this object: the one of QTimer::singleShot() would stay until its time has come.
+    auto *const timer = new QTimer(this);
+    timer->setSingleShot(true);
+    connect(timer, &QTimer::timeout, this, &PYXAppInternalsImpl_private::_sl_logAppMode);
+    timer->start(LogDelayMs);
 }
 
 PYXAppInternalsImpl_private::~PYXAppInternalsImpl_private()
