@@ -20,8 +20,8 @@ namespace {
 
 QString chooseRecording()
 {
-    PYXFileFilter::registerFilter("Recordings", "Recordings",
-                                  {"*.wav", "*.flac"}); // once; the title with tr()
+    // Once in the program; what the user reads goes through tr().
+    PYXFileFilter::registerFilter("Recordings", "Recordings", {"*.wav", "*.flac"});
 
     const PYXFileFilter recordings("OpenRecording", {"Recordings"});
     return recordings.getOpenFileName(nullptr, "Open Recording");

@@ -17,7 +17,7 @@ using namespace PYXRuntime;
 
 namespace {
 
-/** Keeps the results of measurements below a directory that the user has chosen. */
+/** Keeps the results of measurements under another name; all else is where the library has it. */
 class ApplicationInfo : public PYXApplicationInfoImpl
 {
 public:
@@ -32,7 +32,7 @@ public:
     }
 };
 
-/** Any module asks the broker, and knows nothing of the class above. */
+/** Any module asks the broker; it need not know the class that answers. */
 QString directory(PYXIApplicationInfo::eSpecialDir code)
 {
     auto *info = PYXBroker::getInstance()->topObject<PYXIApplicationInfo>();

@@ -38,8 +38,8 @@ QString storedPassword()
 {
     const PYXSettings settings(PYXSettings::eUserApplicationSettings);
     const QString id = settings.stringValue("Server/PasswordProvider");
-    auto *provider =
-        PYXEncryptionManager::staticGetEncryptionProviderForId(id); // may not be the one in effect
+    // It need not be the one that is in effect now.
+    auto *provider = PYXEncryptionManager::staticGetEncryptionProviderForId(id);
     if (provider == nullptr)
         return QString();
     return provider->decryptToQString(settings.byteArrayValue("Server/Password"));

@@ -14,25 +14,21 @@
 
 using namespace PYXRuntime;
 
-namespace {
+static const QByteArray Prefix("STATION ");
 
-const QByteArray Prefix("STATION ");
-
-class StationParser : public IBroadcastParser
+class StationParser : public QObject, public IBroadcastParser
 {
+    Q_OBJECT
 public:
     void parseBroadcastDatagram(const QByteArray &datagram, const QHostAddress &sender, quint16) override
     {
-        if (!datagram.startsWith(Prefix)) // anyone may send anything
-            return;
-        QTextStream(stdout) << "heard " << datagram.mid(Prefix.size()) << " from " << sender.toString()
-                            << '\n';
-        if (QApplication::arguments().contains("--quit"))
-            QApplication::quit();
+        if (datagram.startsWith(Prefix)) // anyone may send anything
+            Q_EMIT si_heard(QString::fromUtf8(datagram.mid(Prefix.size())), sender);
     }
-};
 
-} // namespace
+Q_SIGNALS:
+    void si_heard(const QString &a_station, const QHostAddress &a_address);
+};
 
 int main(int argc, char **argv)
 {
@@ -42,10 +38,16 @@ int main(int argc, char **argv)
     initialize_PYXRuntime();
     const bool isQuitting = QApplication::arguments().contains("--quit");
 
-    StationParser parser; // outlives the receiver
+    StationParser parser;
+    QObject::connect(&parser, &StationParser::si_heard,
+                     [=](const QString &station, const QHostAddress &address) {
+                         QTextStream(stdout) << "heard " << station << " from " << address.toString() << '\n';
+                         if (isQuitting)
+                             QApplication::quit();
+                     });
+    const quint16 port = isQuitting ? 0 : 45454; // 0: a free one
     BroadcastReceiver receiver;
-    receiver.start(isQuitting ? 0 : 45454,
-                   &parser); // 0: a free port; other programs may listen on the same one
+    receiver.start(port, &parser); // other programs may listen on the same port
 
     BroadcastSender sender;
     sender.start(Prefix + "North", receiver.port(), 2000, {}); // now and every 2 s, into every local network
@@ -61,3 +63,5 @@ int main(int argc, char **argv)
     uninitialize_PYXRuntime();
     return result;
 }
+
+#include "announce.moc"

@@ -20,8 +20,7 @@ void fill(QToolBar &bar)
 {
     bar.addAction(PYXStandardIcons::staticRegisteredIcon(PYXStandardIcons::ekIcon_Save), "Save");
 
-    // All files ":/tuner/tuner_<mode>_<state>.*"; here there is tuner_normal_off.svg, and the rest is
-    // derived.
+    // All files ":/tuner/tuner_<mode>_<state>.*"; from the one that is here, the others are derived.
     PYXStandardIcons::staticRegisterIcon(TunerIcon, ":/tuner/tuner");
     bar.addAction(PYXStandardIcons::staticRegisteredIcon(TunerIcon), "Tuner");
 

@@ -26,6 +26,7 @@ int main(int argc, char **argv)
         window.show();
         PYXPopupNotification::queueQuickNotification("Recording saved", &window); // centred over the window
 
+        // From any thread; without a window it is centred over the active one.
         std::thread([] { PYXPopupNotification::queueQuickNotification("Station lost"); }).join();
 
         PYXPopupNotification::connect_queueEmpty(&application, SLOT(quit()));

@@ -42,6 +42,12 @@ public:
 
 namespace {
 
+/** Whoever uses the values of the page reads them again. */
+void takeEffect(PYXSettingsHandlerWidget *page)
+{
+    QTextStream(stdout) << "applied " << page->objectName() << '\n';
+}
+
 /** Does what the user would do. */
 void editAndAccept(PYXSettingsDialog *dialog)
 {
@@ -68,10 +74,7 @@ int main(int argc, char **argv)
         auto *waterfall = new SHW_Plots_Waterfall;
         dialog.registerSettingsHandler(waterfall); // belongs to the dialog from now on
         dialog.registerSettingsHandler(new SHW_General_Messages);
-        QObject::connect(
-            &dialog, &PYXSettingsDialog::si_settingsPageApplied, [](PYXSettingsHandlerWidget *page) {
-                QTextStream(stdout) << "applied " << page->objectName() << '\n'; // now it takes effect
-            });
+        QObject::connect(&dialog, &PYXSettingsDialog::si_settingsPageApplied, takeEffect);
         if (QApplication::arguments().contains("--quit"))
             editAndAccept(&dialog);
         PYXSettings settings(PYXSettings::eUserApplicationSettings);
