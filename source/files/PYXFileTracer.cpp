@@ -14,6 +14,7 @@
 
 #include <atomic>
 #include <mutex>
+#include <utility>
 
 namespace PYXRuntime {
 namespace {
@@ -61,6 +62,7 @@ public:
     /** Whether this thread traces from within a call of run(): a message handler, say. */
     bool isRunningHere() const { return m_owner.load() == QThread::currentThreadId(); }
 
+    void closeSet();
     void write(PYXTracerBase::eLevel severity, const QByteArray &line);
     bool put(const QByteArray &line);
     void putDebugLines();
@@ -112,6 +114,17 @@ void FileTracerPrivate::run(Function function)
         registerLater(path, files.componentName);
     if (!news.trouble.isEmpty())
         pyx_message_output(QLatin1String("PYXFileTracer: ") + news.trouble);
+}
+
+/** What the disk does not take now is lost. */
+void FileTracerPrivate::closeSet()
+{
+    const QString before = std::exchange(lastError, QString());
+    set.close();
+    if (lastError.isEmpty())
+        lastError = before;
+    else
+        note(false);
 }
 
 void FileTracerPrivate::write(PYXTracerBase::eLevel severity, const QByteArray &line)
@@ -195,7 +208,11 @@ PYXFileTracer::PYXFileTracer(const struFiles &files)
     : d(std::make_unique<FileTracerPrivate>(files))
 {}
 
-PYXFileTracer::~PYXFileTracer() = default;
+PYXFileTracer::~PYXFileTracer()
+{
+    // Not left to the set: it tells of errors, which nobody could take any more.
+    close();
+}
 
 bool PYXFileTracer::open()
 {
@@ -209,7 +226,7 @@ bool PYXFileTracer::open()
 
 void PYXFileTracer::close()
 {
-    d->run([this] { d->set.close(); });
+    d->run([this] { d->closeSet(); });
 }
 
 bool PYXFileTracer::flush()
