@@ -128,7 +128,7 @@ private:
     bool _isReachedBy(quint64 weight) const;
     void _registerCurrentFile() const;
     bool _drain();
-    qint64 _finishWrite(const char *data, qint64 size, qint64 written);
+    qint64 _finishWrite(const char *data, qint64 size, qint64 written, quint64 weight);
     void _noteError(const QString &path, const QString &reason);
     void _reportError();
 

@@ -156,12 +156,12 @@ qint64 PYXCountingFileSet::writeData(const char *data, qint64 size)
         }
     }
     const qint64 written = m_currentFile->append(data, size);
-    const quint64 weight = _getWeightOfData(data, size, written);
+    const quint64 weight = written < 0 ? 0 : _getWeightOfData(data, size, written);
     const bool bPlain = written == size && !m_flushAfterWriting && m_error.isEmpty() &&
                         !m_currentFile->isOverdue() &&
                         m_weightOfCurrentFile + weight < m_maximumWeightPerFile;
     if (!bPlain)
-        return _finishWrite(data, size, written);
+        return _finishWrite(data, size, written, weight);
     m_weightOfCurrentFile += weight;
     return written;
 }
@@ -273,13 +273,12 @@ bool PYXCountingFileSet::_drain()
 
 /** The rest of a write after which there is more to do. What the system refuses of it at once is taken back.
  */
-qint64 PYXCountingFileSet::_finishWrite(const char *data, qint64 size, qint64 written)
+qint64 PYXCountingFileSet::_finishWrite(const char *data, qint64 size, qint64 written, quint64 weight)
 {
-    quint64 weight = _getWeightOfData(data, size, written);
     const bool bDrain = m_flushAfterWriting || _isReachedBy(weight) || m_currentFile->isOverdue();
     if (written == size && bDrain && !m_currentFile->drain()) {
         written -= m_currentFile->takeBack(size);
-        weight = _getWeightOfData(data, size, written);
+        weight = written > 0 ? _getWeightOfData(data, size, written) : 0;
     }
     if (written != size)
         _noteError(m_currentFilePath, m_currentFile->errorString());
