@@ -98,7 +98,7 @@ bool PYXCountingFileSet::open(OpenMode mode)
     const QPointer<PYXCountingFileSet> guard(this);
     const bool bOpened = _openNextFile();
     if (bOpened || guard.isNull())
-        return bOpened && !guard.isNull();
+        return bOpened && !guard.isNull() && isOpen();
     QIODevice::close();
     setErrorString(m_error);
     m_error.clear();
@@ -109,12 +109,14 @@ void PYXCountingFileSet::close()
 {
     if (!isOpen())
         return;
-    const QString path = m_currentFilePath;
+    _closeCurrentFile();
+    QIODevice::close();
+    // Who hears aboutToClose() may have written a last time.
     _closeCurrentFile();
     if (!m_leftOver.isEmpty())
-        _noteError(path, tr("%n byte(s) could not be written.", nullptr, m_leftOver.size()));
+        _noteError(m_previousFilesPaths.value(m_previousFilesPaths.size() - 1, m_baseDirectory),
+                   tr("%n byte(s) could not be written.", nullptr, m_leftOver.size()));
     m_leftOver.clear();
-    QIODevice::close();
     _reportError();
 }
 
