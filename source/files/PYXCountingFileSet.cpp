@@ -11,6 +11,7 @@
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QPointer>
+#include <QtCore/QScopedValueRollback>
 #include <QtCore/QThread>
 
 #include <utility>
@@ -199,13 +200,13 @@ bool PYXCountingFileSet::_openNextFile()
         _noteError(path, file->errorString());
         return false;
     }
-    _debug(QLatin1String("opened next file [") + path + QLatin1Char(']'));
     m_currentFile = std::move(file);
     m_currentFilePath = path;
     m_weightOfCurrentFile = 0;
     m_currentFile->putPending(std::exchange(m_leftOver, QByteArray()));
+    _debug(QLatin1String("opened next file [") + path + QLatin1Char(']'));
     if (m_registerWrittenFiles)
-        _registerCurrentFile();
+        _register(path);
     return true;
 }
 
@@ -214,6 +215,9 @@ void PYXCountingFileSet::_closeCurrentFile()
     if (m_currentFile == nullptr)
         return;
     _debug(QLatin1String("closing current file [") + m_currentFilePath + QLatin1Char(']'));
+    // A tracer that writes to this very set may have filled the file.
+    if (m_currentFile == nullptr)
+        return;
     const bool bDrained = m_currentFile->drain();
     if (!bDrained)
         _noteError(m_currentFilePath, m_currentFile->errorString());
@@ -247,12 +251,12 @@ bool PYXCountingFileSet::_isReachedBy(quint64 weight) const
     return m_weightOfCurrentFile + weight >= m_maximumWeightPerFile;
 }
 
-void PYXCountingFileSet::_registerCurrentFile() const
+void PYXCountingFileSet::_register(const QString &path) const
 {
     auto *const files = PYXBroker::getInstance()->topObject<PYXIFileList>();
     if (files == nullptr)
         return;
-    const auto doRegister = [files, path = m_currentFilePath, type = m_registerFileType,
+    const auto doRegister = [files, path, type = m_registerFileType,
                              component = m_registerFileComponentName] {
         files->registerFile(path, type, component, QDateTime(), QDateTime());
     };
@@ -311,11 +315,13 @@ void PYXCountingFileSet::_reportError()
     Q_EMIT si_writeError(error);
 }
 
-void PYXCountingFileSet::_debug(const QString &text) const
+void PYXCountingFileSet::_debug(const QString &text)
 {
     const uint scope = PYXRuntimeCenter::isEnabled_pyxDebug(s_libraryScope) ? s_libraryScope : s_classScope;
-    if (m_bSilent || !PYXRuntimeCenter::isEnabled_pyxDebug(scope))
+    if (m_bSilent || m_bDebugging || !PYXRuntimeCenter::isEnabled_pyxDebug(scope))
         return;
+    // A tracer may write traces to this very set: of that, it tells no more.
+    const QScopedValueRollback<bool> debugging(m_bDebugging, true);
     // While the set is destroyed, that is this class.
     // NOLINTNEXTLINE(clang-analyzer-optin.cplusplus.VirtualCall)
     const QLatin1String className(metaObject()->className());
