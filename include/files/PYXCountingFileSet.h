@@ -127,7 +127,6 @@ private:
     void _closeCurrentFile();
     void _checkWeight();
     bool _isReachedBy(quint64 weight) const;
-    void _register(const QString &path) const;
     bool _drain();
     qint64 _finishWrite(const char *data, qint64 size, qint64 written, quint64 weight);
     void _noteError(const QString &path, const QString &reason);

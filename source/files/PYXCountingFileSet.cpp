@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "PYXCountingFileSet.h"
 
+#include "FileRegistration.h"
 #include "Platform.h"
-#include "PYXBroker.h"
 #include "PYXRuntimeCenter.h"
 #include "RecordFile.h"
 
@@ -12,7 +12,6 @@
 #include <QtCore/QFileInfo>
 #include <QtCore/QPointer>
 #include <QtCore/QScopedValueRollback>
-#include <QtCore/QThread>
 
 #include <utility>
 
@@ -206,7 +205,8 @@ bool PYXCountingFileSet::_openNextFile()
     m_currentFile->putPending(std::exchange(m_leftOver, QByteArray()));
     _debug(QLatin1String("opened next file [") + path + QLatin1Char(']'));
     if (m_registerWrittenFiles)
-        _register(path);
+        registerWrittenFile({path, m_registerFileType, m_registerFileComponentName, {}, {}},
+                            Qt::AutoConnection);
     return true;
 }
 
@@ -249,21 +249,6 @@ void PYXCountingFileSet::_checkWeight()
 bool PYXCountingFileSet::_isReachedBy(quint64 weight) const
 {
     return m_weightOfCurrentFile + weight >= m_maximumWeightPerFile;
-}
-
-void PYXCountingFileSet::_register(const QString &path) const
-{
-    auto *const files = PYXBroker::getInstance()->topObject<PYXIFileList>();
-    if (files == nullptr)
-        return;
-    const auto doRegister = [files, path, type = m_registerFileType,
-                             component = m_registerFileComponentName] {
-        files->registerFile(path, type, component, QDateTime(), QDateTime());
-    };
-    if (files->thread() == QThread::currentThread())
-        doRegister();
-    else
-        QMetaObject::invokeMethod(files, doRegister, Qt::QueuedConnection);
 }
 
 bool PYXCountingFileSet::_drain()

@@ -3,8 +3,7 @@
 #include "PYXFileTracer.h"
 
 #include "DataMutex.h"
-#include "PYXBroker.h"
-#include "PYXIFileList.h"
+#include "FileRegistration.h"
 #include "PYXMessageOutput.h"
 #include "PYXRetainingFileSet.h"
 #include "TraceLines.h"
@@ -27,20 +26,6 @@ class TraceFileSet final : public PYXRetainingFileSet
 public:
     TraceFileSet() { _setSilent(true); }
 };
-
-/** The registry belongs to one thread, and its listeners must not find the tracer locked. */
-void registerLater(const QString &path, const QString &componentName)
-{
-    auto *const files = PYXBroker::getInstance()->topObject<PYXIFileList>();
-    if (files == nullptr || componentName.isEmpty())
-        return;
-    QMetaObject::invokeMethod(
-        files,
-        [files, path, componentName] {
-            files->registerFile(path, PYXIFileList::ekFT_TEXT, componentName, {}, {});
-        },
-        Qt::QueuedConnection);
-}
 
 } // namespace
 
@@ -110,8 +95,12 @@ void FileTracerPrivate::run(Function function)
         std::swap(news, m_news);
         m_owner = nullptr;
     }
+    if (files.componentName.isEmpty())
+        news.newPaths.clear();
+    // Later: a listener may be in the middle of a trace.
     for (const QString &path : qAsConst(news.newPaths))
-        registerLater(path, files.componentName);
+        registerWrittenFile({path, PYXIFileList::ekFT_TEXT, files.componentName, {}, {}},
+                            Qt::QueuedConnection);
     if (!news.trouble.isEmpty())
         pyx_message_output(QLatin1String("PYXFileTracer: ") + news.trouble);
 }

@@ -11,6 +11,7 @@
 
 #include <QtTest/QtTest>
 
+#include <atomic>
 #include <memory>
 #include <random>
 
@@ -238,6 +239,19 @@ void tst_PYXCountingFileSet::registersItsFiles()
     QVERIFY(thread->wait());
     QCOMPARE(list->fileCount("Recorder"), 1);
     QTRY_COMPARE(list->fileCount("Recorder"), 2);
+    // Lists may come and go meanwhile.
+    std::atomic<bool> bDone(false);
+    thread.reset(QThread::create([&] {
+        while (!bDone)
+            set.write("c");
+    }));
+    thread->start();
+    for (int i = 0; i < 500; ++i) {
+        PYXFileListImpl::destroyInstance();
+        PYXFileListImpl::makeSureInitialized();
+    }
+    bDone = true;
+    QVERIFY(thread->wait());
 }
 
 void tst_PYXCountingFileSet::losesAndDoublesNothing_data()
