@@ -6,6 +6,9 @@
 
 #include <QtCore/QStringList>
 
+#include <functional>
+#include <utility>
+
 /** Overrides the three forms of one level. */
 #define RECORD_LEVEL(level)                                                                                  \
     void trace##level(const QStringList &list, const char *file, ushort line) override                       \
@@ -54,6 +57,28 @@ public:
     RECORD_LEVEL(Debug_Info)
     RECORD_LEVEL(Debug_Warn)
     RECORD_LEVEL(Debug_Error)
+};
+
+/** Does something at the first trace. */
+class ActingTracer : public PYXRuntime::PYXTracerBase
+{
+public:
+    explicit ActingTracer(std::function<void()> action)
+        : m_action(std::move(action))
+    {
+        PYXRuntime::PYXTraceWrapper::addTracer(this);
+    }
+    ~ActingTracer() override { PYXRuntime::PYXTraceWrapper::removeTracer(this); }
+
+protected:
+    void trace(const struTrace &) override
+    {
+        if (const auto once = std::exchange(m_action, {}))
+            once();
+    }
+
+private:
+    std::function<void()> m_action;
 };
 
 /** What a tracer gets while a function runs. */

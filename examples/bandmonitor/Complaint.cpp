@@ -4,6 +4,7 @@
 
 #include <PYXTraceWrapper.h>
 
+#include <QtGui/QTextDocument>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QMessageBox>
 
@@ -15,7 +16,8 @@ void complain(QWidget *parent, const QString &text, const QString &reason, const
     PYXRuntime::PYXTraceWrapper::staticTraceError(reason, traceFile, line);
     auto *const box =
         new QMessageBox(QMessageBox::Warning, QApplication::applicationName(), text, QMessageBox::Ok, parent);
-    box->setInformativeText(reason);
+    // It may quote a server, and is no rich text.
+    box->setInformativeText(Qt::convertFromPlainText(reason));
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->open();
 }

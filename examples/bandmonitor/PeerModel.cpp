@@ -9,6 +9,8 @@
 
 #include <QtGui/QFont>
 
+#include <algorithm>
+
 using PYXRuntime::PYXNetworkEntry;
 using PYXRuntime::PYXNetworkEntryList;
 using PYXRuntime::PYXSettings;
@@ -56,14 +58,18 @@ void PeerModel::restore()
     endResetModel();
 }
 
-void PeerModel::add(const PYXNetworkEntry &peer)
+int PeerModel::add(const PYXNetworkEntry &peer)
 {
-    if (m_peers.containsMatchingEntry(peer))
-        return;
-    beginInsertRows({}, rowCount(), rowCount());
+    const auto same = std::find_if(m_peers.cbegin(), m_peers.cend(),
+                                   [&](const PYXNetworkEntry &own) { return own.matches(peer); });
+    const int row = int(same - m_peers.cbegin());
+    if (same != m_peers.cend())
+        return row;
+    beginInsertRows({}, row, row);
     m_peers.append(peer);
     endInsertRows();
     _save();
+    return row;
 }
 
 void PeerModel::remove(int row)
@@ -123,6 +129,8 @@ bool PeerModel::setData(const QModelIndex &index, const QVariant &value, int rol
     if (index.column() == ekColumn_Name) {
         if (text.isEmpty())
             return false;
+        if (&peer == &m_peers.defaultEntry())
+            m_peers.setDefaultEntryName(text);
         peer.setName(text);
     } else {
         const PYXNetworkEntry parsed = PYXNetworkEntry::parseIPPortString(text);

@@ -25,7 +25,8 @@ public:
     /** Without entries: its keys tell where they are stored. */
     static PYXRuntime::PYXNetworkEntryList emptyList();
 
-    void add(const PYXRuntime::PYXNetworkEntry &peer);
+    /** @return its row, or that of the one with the same address and port, which is there already. */
+    int add(const PYXRuntime::PYXNetworkEntry &peer);
     void remove(int row);
 
     int rowCount(const QModelIndex &parent = {}) const override;

@@ -97,9 +97,10 @@ void RecordingFetcher::_fail(const QString &reason)
 void RecordingFetcher::_sl_network_authenticationRequired(QNetworkReply *a_reply,
                                                           QAuthenticator *a_authenticator)
 {
-    // Only there: it may have been led to another host since. Asked again, what we have was wrong.
-    if (a_reply != m_reply || m_url.userName().isEmpty() || a_reply->url().host() != m_url.host() ||
-        a_authenticator->user() == m_url.userName())
+    // Only there: it may have been led to another server since. Asked again, what we have was wrong.
+    const QUrl url = a_reply->url();
+    if (a_reply != m_reply || m_url.userName().isEmpty() || url.host() != m_url.host() ||
+        url.port() != m_url.port() || a_authenticator->user() == m_url.userName())
         return;
     a_authenticator->setUser(m_url.userName());
     a_authenticator->setPassword(m_url.password());

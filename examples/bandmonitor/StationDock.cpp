@@ -104,9 +104,9 @@ void StationDock::_sl_keepButton_clicked()
 void StationDock::_sl_addButton_clicked()
 {
     // An address that nobody has, for the user to overwrite.
-    m_peers->add(PYXNetworkEntry(tr("New peer"), QHostAddress(QHostAddress::LocalHost),
-                                 struAnnouncement::Port, QUuid::createUuid()));
-    const QModelIndex added = m_peers->index(m_peers->rowCount() - 1, PeerModel::ekColumn_Name);
+    const int row = m_peers->add(PYXNetworkEntry(tr("New peer"), QHostAddress(QHostAddress::LocalHost),
+                                                 struAnnouncement::Port, QUuid::createUuid()));
+    const QModelIndex added = m_peers->index(row, PeerModel::ekColumn_Name);
     m_peerTable->setCurrentIndex(added);
     m_peerTable->edit(added);
 }

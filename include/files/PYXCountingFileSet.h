@@ -34,7 +34,8 @@ class RecordFile;
  * in the next file. Data waits to be written out for a second while writes go on, else until flush() or
  * close().
  *
- * One thread, like any QIODevice. Slots may close or delete the set.
+ * One thread, like any QIODevice. Slots may close or delete the set. A tracer may write to it, also when it
+ * is told of this very set.
  */
 class PYXRUNTIME_EXPORT PYXCountingFileSet : public QIODevice
 {
@@ -116,7 +117,7 @@ protected:
     /** For subclasses that delete files: takes one off previousFilesPaths(). */
     void _forgetPreviousFile(const QString &path) { m_previousFilesPaths.removeOne(path); }
     /** Writes to the runtime scope. */
-    void _debug(const QString &text) const;
+    void _debug(const QString &text);
     /** For sets whose messages nobody may hear, because they carry the messages themselves. */
     void _setSilent(bool bSilent) { m_bSilent = bSilent; }
 
@@ -126,9 +127,8 @@ private:
     void _closeCurrentFile();
     void _checkWeight();
     bool _isReachedBy(quint64 weight) const;
-    void _registerCurrentFile() const;
     bool _drain();
-    qint64 _finishWrite(const char *data, qint64 size, qint64 written);
+    qint64 _finishWrite(const char *data, qint64 size, qint64 written, quint64 weight);
     void _noteError(const QString &path, const QString &reason);
     void _reportError();
 
@@ -147,6 +147,7 @@ private:
     QByteArray m_leftOver; ///< accepted, but not taken by the file that has been closed
     QString m_error;       ///< not yet told
     bool m_bSilent = false;
+    bool m_bDebugging = false;
 };
 
 } // namespace PYXRuntime

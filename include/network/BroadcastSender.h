@@ -46,6 +46,7 @@ protected:
     void timerEvent(QTimerEvent *event) override;
 
 private:
+    void _end();
     void _sendDatagram();
 
     QByteArray m_datagram;

@@ -66,6 +66,7 @@ private:
 
     ProxyConfiguration m_currentConfiguration;
     QPointer<PYXNetworkProxyFactory> m_factory;
+    quint64 m_appliedCount = 0;
 };
 
 } // namespace PYXRuntime

@@ -46,7 +46,7 @@ public:
 
     /**
      * Fetches the key, and makes one where the store has none yet. Runs an event loop without user input
-     * meanwhile. An entry that is no key is reported and never replaced.
+     * meanwhile; called again from there, it fails. An entry that is no key is reported and never replaced.
      * @param error gets the reason, for the user, where the result is false; may be null
      * @param timeoutMs longest time for each question to the store, in ms
      */

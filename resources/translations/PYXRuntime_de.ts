@@ -26,6 +26,10 @@
         <translation>Ein anderes Programm verwendet gerade den Schlüssel im Schlüsselbund des Systems.</translation>
     </message>
     <message>
+        <source>The key is being fetched from the system&apos;s secret store already.</source>
+        <translation>Der Schlüssel wird gerade schon aus dem Schlüsselbund des Systems geholt.</translation>
+    </message>
+    <message>
         <source>The key in the system&apos;s secret store is damaged.</source>
         <translation>Der Schlüssel im Schlüsselbund des Systems ist beschädigt.</translation>
     </message>

@@ -26,6 +26,10 @@
         <translation>Un autre programme utilise en ce moment la clé du trousseau du système.</translation>
     </message>
     <message>
+        <source>The key is being fetched from the system&apos;s secret store already.</source>
+        <translation>La clé est déjà en cours de lecture dans le trousseau du système.</translation>
+    </message>
+    <message>
         <source>The key in the system&apos;s secret store is damaged.</source>
         <translation>La clé du trousseau du système est endommagée.</translation>
     </message>

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "PYXCountingFileSet.h"
 
+#include "FileRegistration.h"
 #include "Platform.h"
-#include "PYXBroker.h"
 #include "PYXRuntimeCenter.h"
 #include "RecordFile.h"
 
@@ -11,7 +11,7 @@
 #include <QtCore/QDir>
 #include <QtCore/QFileInfo>
 #include <QtCore/QPointer>
-#include <QtCore/QThread>
+#include <QtCore/QScopedValueRollback>
 
 #include <utility>
 
@@ -98,7 +98,7 @@ bool PYXCountingFileSet::open(OpenMode mode)
     const QPointer<PYXCountingFileSet> guard(this);
     const bool bOpened = _openNextFile();
     if (bOpened || guard.isNull())
-        return bOpened && !guard.isNull();
+        return bOpened && !guard.isNull() && isOpen();
     QIODevice::close();
     setErrorString(m_error);
     m_error.clear();
@@ -109,12 +109,14 @@ void PYXCountingFileSet::close()
 {
     if (!isOpen())
         return;
-    const QString path = m_currentFilePath;
+    _closeCurrentFile();
+    QIODevice::close();
+    // Who hears aboutToClose() may have written a last time.
     _closeCurrentFile();
     if (!m_leftOver.isEmpty())
-        _noteError(path, tr("%n byte(s) could not be written.", nullptr, m_leftOver.size()));
+        _noteError(m_previousFilesPaths.value(m_previousFilesPaths.size() - 1, m_baseDirectory),
+                   tr("%n byte(s) could not be written.", nullptr, m_leftOver.size()));
     m_leftOver.clear();
-    QIODevice::close();
     _reportError();
 }
 
@@ -156,12 +158,12 @@ qint64 PYXCountingFileSet::writeData(const char *data, qint64 size)
         }
     }
     const qint64 written = m_currentFile->append(data, size);
-    const quint64 weight = _getWeightOfData(data, size, written);
+    const quint64 weight = written < 0 ? 0 : _getWeightOfData(data, size, written);
     const bool bPlain = written == size && !m_flushAfterWriting && m_error.isEmpty() &&
                         !m_currentFile->isOverdue() &&
                         m_weightOfCurrentFile + weight < m_maximumWeightPerFile;
     if (!bPlain)
-        return _finishWrite(data, size, written);
+        return _finishWrite(data, size, written, weight);
     m_weightOfCurrentFile += weight;
     return written;
 }
@@ -197,13 +199,14 @@ bool PYXCountingFileSet::_openNextFile()
         _noteError(path, file->errorString());
         return false;
     }
-    _debug(QLatin1String("opened next file [") + path + QLatin1Char(']'));
     m_currentFile = std::move(file);
     m_currentFilePath = path;
     m_weightOfCurrentFile = 0;
     m_currentFile->putPending(std::exchange(m_leftOver, QByteArray()));
+    _debug(QLatin1String("opened next file [") + path + QLatin1Char(']'));
     if (m_registerWrittenFiles)
-        _registerCurrentFile();
+        registerWrittenFile({path, m_registerFileType, m_registerFileComponentName, {}, {}},
+                            Qt::AutoConnection);
     return true;
 }
 
@@ -212,6 +215,9 @@ void PYXCountingFileSet::_closeCurrentFile()
     if (m_currentFile == nullptr)
         return;
     _debug(QLatin1String("closing current file [") + m_currentFilePath + QLatin1Char(']'));
+    // A tracer that writes to this very set may have filled the file.
+    if (m_currentFile == nullptr)
+        return;
     const bool bDrained = m_currentFile->drain();
     if (!bDrained)
         _noteError(m_currentFilePath, m_currentFile->errorString());
@@ -245,21 +251,6 @@ bool PYXCountingFileSet::_isReachedBy(quint64 weight) const
     return m_weightOfCurrentFile + weight >= m_maximumWeightPerFile;
 }
 
-void PYXCountingFileSet::_registerCurrentFile() const
-{
-    auto *const files = PYXBroker::getInstance()->topObject<PYXIFileList>();
-    if (files == nullptr)
-        return;
-    const auto doRegister = [files, path = m_currentFilePath, type = m_registerFileType,
-                             component = m_registerFileComponentName] {
-        files->registerFile(path, type, component, QDateTime(), QDateTime());
-    };
-    if (files->thread() == QThread::currentThread())
-        doRegister();
-    else
-        QMetaObject::invokeMethod(files, doRegister, Qt::QueuedConnection);
-}
-
 bool PYXCountingFileSet::_drain()
 {
     if (m_currentFile == nullptr || m_currentFile->drain())
@@ -273,13 +264,12 @@ bool PYXCountingFileSet::_drain()
 
 /** The rest of a write after which there is more to do. What the system refuses of it at once is taken back.
  */
-qint64 PYXCountingFileSet::_finishWrite(const char *data, qint64 size, qint64 written)
+qint64 PYXCountingFileSet::_finishWrite(const char *data, qint64 size, qint64 written, quint64 weight)
 {
-    quint64 weight = _getWeightOfData(data, size, written);
     const bool bDrain = m_flushAfterWriting || _isReachedBy(weight) || m_currentFile->isOverdue();
     if (written == size && bDrain && !m_currentFile->drain()) {
         written -= m_currentFile->takeBack(size);
-        weight = _getWeightOfData(data, size, written);
+        weight = written > 0 ? _getWeightOfData(data, size, written) : 0;
     }
     if (written != size)
         _noteError(m_currentFilePath, m_currentFile->errorString());
@@ -310,11 +300,13 @@ void PYXCountingFileSet::_reportError()
     Q_EMIT si_writeError(error);
 }
 
-void PYXCountingFileSet::_debug(const QString &text) const
+void PYXCountingFileSet::_debug(const QString &text)
 {
     const uint scope = PYXRuntimeCenter::isEnabled_pyxDebug(s_libraryScope) ? s_libraryScope : s_classScope;
-    if (m_bSilent || !PYXRuntimeCenter::isEnabled_pyxDebug(scope))
+    if (m_bSilent || m_bDebugging || !PYXRuntimeCenter::isEnabled_pyxDebug(scope))
         return;
+    // A tracer may write traces to this very set: of that, it tells no more.
+    const QScopedValueRollback<bool> debugging(m_bDebugging, true);
     // While the set is destroyed, that is this class.
     // NOLINTNEXTLINE(clang-analyzer-optin.cplusplus.VirtualCall)
     const QLatin1String className(metaObject()->className());

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "PYXFileListImpl.h"
 
+#include "FileRegistration.h"
 #include "PYXTraceWrapper.h"
 #include "SingletonHolder.h"
 
@@ -47,7 +48,11 @@ PYXFileListImpl::PYXFileListImpl()
     setObjectName(QStringLiteral("PYXRuntime::PYXFileListImpl"));
 }
 
-PYXFileListImpl::~PYXFileListImpl() = default;
+PYXFileListImpl::~PYXFileListImpl()
+{
+    m_registration.reset();
+    awaitFileRegistrations();
+}
 
 PYXFileListImpl *PYXFileListImpl::getInstance()
 {

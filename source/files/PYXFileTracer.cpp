@@ -3,8 +3,7 @@
 #include "PYXFileTracer.h"
 
 #include "DataMutex.h"
-#include "PYXBroker.h"
-#include "PYXIFileList.h"
+#include "FileRegistration.h"
 #include "PYXMessageOutput.h"
 #include "PYXRetainingFileSet.h"
 #include "TraceLines.h"
@@ -14,6 +13,7 @@
 
 #include <atomic>
 #include <mutex>
+#include <utility>
 
 namespace PYXRuntime {
 namespace {
@@ -26,20 +26,6 @@ class TraceFileSet final : public PYXRetainingFileSet
 public:
     TraceFileSet() { _setSilent(true); }
 };
-
-/** The registry belongs to one thread, and its listeners must not find the tracer locked. */
-void registerLater(const QString &path, const QString &componentName)
-{
-    auto *const files = PYXBroker::getInstance()->topObject<PYXIFileList>();
-    if (files == nullptr || componentName.isEmpty())
-        return;
-    QMetaObject::invokeMethod(
-        files,
-        [files, path, componentName] {
-            files->registerFile(path, PYXIFileList::ekFT_TEXT, componentName, {}, {});
-        },
-        Qt::QueuedConnection);
-}
 
 } // namespace
 
@@ -61,6 +47,7 @@ public:
     /** Whether this thread traces from within a call of run(): a message handler, say. */
     bool isRunningHere() const { return m_owner.load() == QThread::currentThreadId(); }
 
+    void closeSet();
     void write(PYXTracerBase::eLevel severity, const QByteArray &line);
     bool put(const QByteArray &line);
     void putDebugLines();
@@ -108,10 +95,25 @@ void FileTracerPrivate::run(Function function)
         std::swap(news, m_news);
         m_owner = nullptr;
     }
+    if (files.componentName.isEmpty())
+        news.newPaths.clear();
+    // Later: a listener may be in the middle of a trace.
     for (const QString &path : qAsConst(news.newPaths))
-        registerLater(path, files.componentName);
+        registerWrittenFile({path, PYXIFileList::ekFT_TEXT, files.componentName, {}, {}},
+                            Qt::QueuedConnection);
     if (!news.trouble.isEmpty())
         pyx_message_output(QLatin1String("PYXFileTracer: ") + news.trouble);
+}
+
+/** What the disk does not take now is lost. */
+void FileTracerPrivate::closeSet()
+{
+    const QString before = std::exchange(lastError, QString());
+    set.close();
+    if (lastError.isEmpty())
+        lastError = before;
+    else
+        note(false);
 }
 
 void FileTracerPrivate::write(PYXTracerBase::eLevel severity, const QByteArray &line)
@@ -195,7 +197,11 @@ PYXFileTracer::PYXFileTracer(const struFiles &files)
     : d(std::make_unique<FileTracerPrivate>(files))
 {}
 
-PYXFileTracer::~PYXFileTracer() = default;
+PYXFileTracer::~PYXFileTracer()
+{
+    // Not left to the set: it tells of errors, which nobody could take any more.
+    close();
+}
 
 bool PYXFileTracer::open()
 {
@@ -209,7 +215,7 @@ bool PYXFileTracer::open()
 
 void PYXFileTracer::close()
 {
-    d->run([this] { d->set.close(); });
+    d->run([this] { d->closeSet(); });
 }
 
 bool PYXFileTracer::flush()

@@ -95,9 +95,11 @@ qint64 RecordFile::_put(const char *data, qint64 size)
 
 qint64 RecordFile::_putText(const char *data, qint64 size)
 {
+    // Not if the caller has taken the "\n" back.
+    const bool bHalfWritten = m_bHalfLineEnd && *data == '\n';
     QByteArray text(data, static_cast<int>(size));
     text.replace("\n", "\r\n");
-    if (m_bHalfLineEnd)
+    if (bHalfWritten)
         text.remove(0, 1);
     const qint64 written = QFile::writeData(text.constData(), text.size());
     if (written <= 0)
@@ -105,7 +107,7 @@ qint64 RecordFile::_putText(const char *data, qint64 size)
     qint64 taken = 0;
     qint64 translated = 0;
     for (; taken < size; ++taken) {
-        const bool bTwoBytes = data[taken] == '\n' && !(taken == 0 && m_bHalfLineEnd);
+        const bool bTwoBytes = data[taken] == '\n' && !(taken == 0 && bHalfWritten);
         translated += bTwoBytes ? 2 : 1;
         if (translated > written)
             break;

@@ -6,6 +6,7 @@
 #include "PYXHostAddressHelpers.h"
 #include "PYXTraceWrapper.h"
 
+#include <QtCore/QPointer>
 #include <QtCore/QTimerEvent>
 #include <QtNetwork/QNetworkProxy>
 #include <QtNetwork/QUdpSocket>
@@ -30,11 +31,16 @@ BroadcastSender::~BroadcastSender()
 void BroadcastSender::start(const QByteArray &datagram, quint16 port, int intervalMs,
                             const QList<QHostAddress> &localAddresses)
 {
+    const QPointer<BroadcastSender> self(this);
     stop();
     PYXTraceWrapper::staticTraceDebug(
         QStringLiteral("starting broadcast [%1]@%2ms")
             .arg(QString::fromLatin1(datagram.constData(), datagram.size()), QString::number(intervalMs)),
         TraceFile, __LINE__);
+    // A tracer may have deleted the sender, or started it.
+    if (self.isNull())
+        return;
+    _end();
     m_datagram = datagram;
     m_socket = new QUdpSocket(this);
     // A broadcast is for the networks around, which no proxy reaches.
@@ -52,11 +58,17 @@ void BroadcastSender::start(const QByteArray &datagram, quint16 port, int interv
 
 void BroadcastSender::stop()
 {
-    if (m_timerId != 0) {
+    const bool bWasRunning = isRunning();
+    _end();
+    if (bWasRunning)
         PYXTraceWrapper::staticTraceDebug(QStringLiteral("stopping broadcast server"), TraceFile, __LINE__);
+}
+
+void BroadcastSender::_end()
+{
+    if (m_timerId != 0)
         killTimer(m_timerId);
-        m_timerId = 0;
-    }
+    m_timerId = 0;
     delete m_socket;
     m_socket = nullptr;
 }

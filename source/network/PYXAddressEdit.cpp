@@ -74,10 +74,10 @@ void PYXAddressEdit::_setProtocol(QAbstractSocket::NetworkLayerProtocol protocol
         return;
     m_textOfProtocol.insert(m_validator->protocol(), text());
     m_validator->setProtocol(protocol);
-    if (!m_validator->accepts(m_address))
+    if (!m_validator->accepts(addressFromTypedText(text())))
         setText(m_textOfProtocol.value(protocol));
-    _showValidity();
     updateGeometry();
+    _sl_self_textChanged(text()); // the same text may be an address now
 }
 
 QSize PYXAddressEdit::sizeHint() const

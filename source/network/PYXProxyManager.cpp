@@ -142,17 +142,22 @@ void PYXProxyManager::_sl_encryptionManager_registeredEncryptionProvidersChanged
 
 void PYXProxyManager::_sl_proxyFactory_destroyed(QObject *)
 {
+    const QPointer<PYXProxyManager> self(this); // a tracer may destroy it
     PYXTraceWrapper::staticTraceDebug(
         QStringLiteral("PYXRuntime::PYXProxyManager::_sl_proxyFactory_destroyed"), TraceFile, __LINE__);
     // What was applied since then has brought a new factory along.
-    const bool bMissing = m_factory.isNull() && initializationCount != 0;
+    const bool bMissing = !self.isNull() && m_factory.isNull() && initializationCount != 0;
     if (bMissing && QCoreApplication::instance() != nullptr && !QCoreApplication::closingDown())
         _applyProxyConfigurationFromSettings();
 }
 
 void PYXProxyManager::_applyProxyConfiguration(const ProxyConfiguration &configuration)
 {
+    const QPointer<PYXProxyManager> self(this);
     describe(configuration);
+    if (self.isNull())
+        return;
+    ++m_appliedCount;
     m_currentConfiguration = configuration;
     m_currentConfiguration.clearProxyPassword();
     _handToFactory(configuration);
@@ -163,8 +168,14 @@ void PYXProxyManager::_applyProxyConfiguration(const ProxyConfiguration &configu
 
 void PYXProxyManager::_applyProxyConfigurationFromSettings()
 {
+    // A provider may ask the user for its key before it decrypts the password. Meanwhile the program may end,
+    // and what is applied is newer.
+    const QPointer<PYXProxyManager> self(this);
+    const quint64 before = m_appliedCount;
     const PYXSettings settings(PYXSettings::eUserApplicationSettings);
-    _applyProxyConfiguration(ProxyConfiguration::restoredFrom(&settings, settingsKey(), nullptr));
+    const auto stored = ProxyConfiguration::restoredFrom(&settings, settingsKey(), nullptr);
+    if (!self.isNull() && m_appliedCount == before)
+        _applyProxyConfiguration(stored);
 }
 
 void PYXProxyManager::_handToFactory(const ProxyConfiguration &configuration)

@@ -8,6 +8,7 @@
 
 #include <QtCore/QDir>
 #include <QtCore/QLockFile>
+#include <QtCore/QScopedValueRollback>
 #include <QtCore/QStandardPaths>
 
 #include <sodium.h>
@@ -47,6 +48,11 @@ QString lockPath()
 /** Asks for the key, and makes one where there is none. @return why there is no key; else empty */
 QString fetchKey(const KeychainEntry &entry, QByteArray &key)
 {
+    // Asking runs events, and what asks again in one of them would wait for a lock that it holds up itself.
+    static bool bAsking = false;
+    if (bAsking)
+        return KeychainVault::tr("The key is being fetched from the system's secret store already.");
+    const QScopedValueRollback<bool> asking(bAsking, true);
     // Two programs that start for the first time would otherwise each make one.
     QLockFile lock(lockPath());
     lock.setStaleLockTime(LongestAnswerMs);

@@ -56,11 +56,15 @@ PYXEncryptionManager::~PYXEncryptionManager()
     if (m_registeredProviders.isEmpty())
         return;
     PYXTraceWrapper::staticTraceDebug(NotUnregistered, TraceFile, __LINE__);
-    for (QObject *const object : registeredEncryptionProviders()) {
-        if (const IPYXEncryptionProvider *const provider = _resolved(object))
-            PYXTraceWrapper::staticTraceDebug(RemainingId + provider->encryptionProviderId(), TraceFile,
-                                              __LINE__);
+    // A tracer may delete providers.
+    const QList<QPointer<QObject>> remaining = m_registeredProviders;
+    for (const QPointer<QObject> &object : remaining) {
+        const IPYXEncryptionProvider *const provider = _resolved(object);
+        if (provider == nullptr)
+            continue;
         object->disconnect(this);
+        PYXTraceWrapper::staticTraceDebug(RemainingId + provider->encryptionProviderId(), TraceFile,
+                                          __LINE__);
     }
 }
 

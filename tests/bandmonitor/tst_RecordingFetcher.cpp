@@ -32,6 +32,9 @@ public:
                     socket->write(head("200 OK") + Content);
                 else if (request.startsWith("GET /cut"))
                     socket->write(head("200 OK") + Content.left(1000));
+                else if (request.startsWith("GET /led-to-"))
+                    socket->write("HTTP/1.1 302 Found\r\nContent-Length: 0\r\nLocation: http://127.0.0.1:" +
+                                  request.mid(12, request.indexOf(' ', 12) - 12) + "/private.wav\r\n\r\n");
                 else if (!request.startsWith("GET /silent"))
                     socket->write("HTTP/1.1 404 Not Found\r\nContent-Length: 0\r\n\r\n");
                 if (request.startsWith("GET /cut"))
@@ -93,6 +96,17 @@ void tst_RecordingFetcher::fetches()
     fetcher.fetch(withPassword);
     QVERIFY(fetched.wait());
     QVERIFY(fetched.at(1) != fetched.at(0));
+
+    // The password is for the server that the user has named.
+    const Server other;
+    QSignalSpy failed(&fetcher, &RecordingFetcher::si_failed);
+    withPassword.setPath(QString("/led-to-%1").arg(other.serverPort()));
+    fetcher.fetch(withPassword);
+    QVERIFY(failed.wait());
+    QVERIFY(failed.at(0).at(0).toString().contains("authentication"));
+    withPassword.setPath(QString("/led-to-%1").arg(m_server.serverPort()));
+    fetcher.fetch(withPassword);
+    QVERIFY(fetched.wait());
 }
 
 void tst_RecordingFetcher::fails_data()

@@ -5,10 +5,14 @@
 
 #include "SettingsHome.h"
 
+#include <PYXSettings.h>
+
 #include <QtTest/QtTest>
 
 using namespace BandMonitor;
 using PYXRuntime::PYXNetworkEntry;
+using PYXRuntime::PYXNetworkEntryList;
+using PYXRuntime::PYXSettings;
 
 namespace {
 
@@ -108,9 +112,9 @@ void tst_Stations::keepsPeers()
     {
         PeerModel peers(stations);
         announce(stations, {QUuid::createUuid(), "tower"});
-        peers.add(stations.entry(0));
-        peers.add(stations.entry(0)); // is there already
-        peers.add(PYXNetworkEntry("gone", QHostAddress("192.0.2.8"), 1, QUuid()));
+        QCOMPARE(peers.add(stations.entry(0)), 0);
+        QCOMPARE(peers.add(PYXNetworkEntry("gone", QHostAddress("192.0.2.8"), 1, QUuid())), 1);
+        QCOMPARE(peers.add(stations.entry(0)), 0); // is there already
         QCOMPARE(peers.rowCount(), 2);
         peers.remove(1);
         peers.remove(-1);
@@ -122,7 +126,7 @@ void tst_Stations::keepsPeers()
             QVERIFY2(!peers.setData(address, text), text);
         QVERIFY(!peers.setData(name, " "));
     }
-    const PeerModel peers(stations);
+    PeerModel peers(stations);
     QCOMPARE(peers.rowCount(), 1);
     QCOMPARE(text(peers, 0, PeerModel::ekColumn_Name), "North");
     QCOMPARE(text(peers, 0, PeerModel::ekColumn_Address), "192.0.2.7:80");
@@ -130,6 +134,14 @@ void tst_Stations::keepsPeers()
     m_now += 60'000;
     stations.update();
     QCOMPARE(text(peers, 0, PeerModel::ekColumn_Heard), "");
+    PYXSettings settings(PYXSettings::eUserApplicationSettings);
+    PYXNetworkEntryList list = PeerModel::emptyList();
+    list.restore(settings);
+    list.setDefaultEntryName("North");
+    list.save(settings);
+    peers.restore();
+    QVERIFY(peers.setData(peers.index(0, PeerModel::ekColumn_Name), "South"));
+    QCOMPARE(peers.index(0, PeerModel::ekColumn_Name).data(Qt::ToolTipRole).toString(), "Default peer");
 }
 
 QTEST_GUILESS_MAIN(tst_Stations)

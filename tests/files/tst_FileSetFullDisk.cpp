@@ -133,9 +133,18 @@ void tst_FileSetFullDisk::translatesLineEndsOnce()
     QVERIFY(!file.drain());
     m_disk.makeRoom();
     QVERIFY(file.drain());
-    file.close();
     QByteArray expected = 'x' + text;
-    QVERIFY(get(m_disk.path("text")) == expected.replace("\n", "\r\n"));
+    expected.replace("\n", "\r\n");
+    QVERIFY(get(m_disk.path("text")) == expected);
+
+    // Who is told that a line end was not taken may write something else instead.
+    QVERIFY(file.append("y", 1) == 1 && file.drain());
+    m_disk.fill(0);
+    QVERIFY(file.append(text.constData(), text.size()) == text.size() && !file.drain());
+    file.takeBack(text.size());
+    m_disk.makeRoom();
+    QVERIFY(file.append("else", 4) == 4 && file.drain());
+    QVERIFY(get(m_disk.path("text")).endsWith("\relse"));
 }
 
 void tst_FileSetFullDisk::noticesRemovedFiles()

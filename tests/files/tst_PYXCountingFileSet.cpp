@@ -11,12 +11,50 @@
 
 #include <QtTest/QtTest>
 
+#include <atomic>
 #include <memory>
 #include <random>
 
 using namespace PYXRuntime;
 using LineSet = Numbered<PYXLineCountingFileSet>;
 using SizeSet = Numbered<PYXSizeCountingFileSet>;
+
+/** Its weight is the number of writes. */
+class WriteSet : public Numbered<PYXCountingFileSet>
+{
+public:
+    using Numbered::Numbered;
+
+protected:
+    quint64 _getWeightOfData(const char *, qint64, qint64) override
+    {
+        return ++m_writes - weightOfCurrentFile();
+    }
+
+private:
+    quint64 m_writes = 0;
+};
+
+/** Writes all traces to a set. */
+class SetTracer : public PYXTracerBase
+{
+public:
+    explicit SetTracer(PYXCountingFileSet &set)
+        : m_set(set)
+    {}
+    QByteArray written;
+
+protected:
+    void trace(const struTrace &trace) override
+    {
+        const QByteArray line = trace.text.toUtf8() + '\n';
+        if (m_set.write(line) == line.size())
+            written += line;
+    }
+
+private:
+    PYXCountingFileSet &m_set;
+};
 
 class tst_PYXCountingFileSet : public QObject
 {
@@ -34,6 +72,7 @@ private Q_SLOTS:
     void losesAndDoublesNothing();
     void goesOnWhenTheCauseIsGone();
     void letsListenersCloseOrDeleteIt();
+    void letsListenersWriteToIt();
 
 private:
     QString path(const QString &name) const { return m_directory->filePath(name); }
@@ -67,6 +106,12 @@ void tst_PYXCountingFileSet::movesOnAfterTheMaximum()
     QCOMPARE(each.write("b"), qint64(1));
     QCOMPARE(each.previousFilesPaths(), QStringList({path("1"), path("2")}));
     QCOMPARE(get(path("2")), QByteArray("b"));
+
+    WriteSet writes(m_directory->path(), 3);
+    QVERIFY(writes.open(QIODevice::WriteOnly));
+    writes.setFlushAfterWriting(true);
+    QVERIFY(writes.write("a") == 1 && writes.write("b") == 1);
+    QCOMPARE(writes.weightOfCurrentFile(), quint64(2));
 
     LineSet lines(m_directory->path(), 3);
     // More than a counter of one byte holds, and an end that is no full row.
@@ -194,6 +239,19 @@ void tst_PYXCountingFileSet::registersItsFiles()
     QVERIFY(thread->wait());
     QCOMPARE(list->fileCount("Recorder"), 1);
     QTRY_COMPARE(list->fileCount("Recorder"), 2);
+    // Lists may come and go meanwhile.
+    std::atomic<bool> bDone(false);
+    thread.reset(QThread::create([&] {
+        while (!bDone)
+            set.write("c");
+    }));
+    thread->start();
+    for (int i = 0; i < 500; ++i) {
+        PYXFileListImpl::destroyInstance();
+        PYXFileListImpl::makeSureInitialized();
+    }
+    bDone = true;
+    QVERIFY(thread->wait());
 }
 
 void tst_PYXCountingFileSet::losesAndDoublesNothing_data()
@@ -295,6 +353,43 @@ void tst_PYXCountingFileSet::letsListenersCloseOrDeleteIt()
             delete set.data();
             PYXFileListImpl::destroyInstance(); // and with it the connection
         }
+    }
+}
+
+void tst_PYXCountingFileSet::letsListenersWriteToIt()
+{
+    const auto contents = [](const PYXCountingFileSet &set) {
+        QByteArray all;
+        for (const QString &file : set.previousFilesPaths())
+            all += get(file);
+        return all;
+    };
+    const auto sorted = [](const QByteArray &text) {
+        QList<QByteArray> lines = text.split('\n');
+        std::sort(lines.begin(), lines.end());
+        return lines;
+    };
+    for (const quint64 maximum : {2U, 3U, 100U}) {
+        LineSet closing(m_directory->path(), maximum);
+        connect(&closing, &QIODevice::aboutToClose, [&] { closing.write("end\n"); });
+        QVERIFY(closing.open(QIODevice::WriteOnly));
+        closing.write("begin\n");
+        closing.close();
+        QCOMPARE(contents(closing), QByteArray("begin\nend\n"));
+
+        // A log of the application's own, in which the set's own messages are switched on.
+        LineSet log(m_directory->path(), maximum);
+        SetTracer tracer(log);
+        PYXTraceWrapper::addTracer(&tracer);
+        PYXRuntimeCenter::setEnabled_pyxDebug("CountingFileSet", true);
+        PYXRuntimeCenter::setEnabled_pyxDebugToTrace(true);
+        QVERIFY(log.open(QIODevice::WriteOnly) && log.switchToNextFile());
+        PYXTraceWrapper::staticTraceInfo("by another", "", 0);
+        log.close();
+        PYXRuntimeCenter::setEnabled_pyxDebug(false);
+        PYXTraceWrapper::removeTracer(&tracer);
+        QVERIFY(tracer.written.contains("opened next file [") && tracer.written.contains("by another\n"));
+        QCOMPARE(sorted(contents(log)), sorted(tracer.written));
     }
 }
 

@@ -155,6 +155,18 @@ void tst_PYXFileTracer::tellsWhatWasLost()
     QCOMPARE(found.size(), 2);
     QVERIFY2(found[0].contains("3 traces were lost: "), qPrintable(found[0]));
     QCOMPARE(found[1], QString("INFO source\\Test(2): here again"));
+
+    // What is still pending at the end is lost as well, and told.
+    for (const bool bClose : {true, false}) {
+        cleanup();
+        QVERIFY(QDir().mkpath(place));
+        start();
+        PYXTraceWrapper::staticTraceInfo("pending", File, 3);
+        QVERIFY(QDir(place).removeRecursively());
+        if (bClose)
+            m_tracer->close();
+        QCOMPARE(m_tracer->errorString().isEmpty(), !bClose);
+    }
 }
 
 void tst_PYXFileTracer::worksInAllThreads()

@@ -3,6 +3,7 @@
 #include "BroadcastSender.h"
 #include "RecordingTracer.h"
 
+#include <QtNetwork/QUdpSocket>
 #include <QtTest/QtTest>
 
 using PYXRuntime::BroadcastSender;
@@ -40,6 +41,18 @@ void tst_BroadcastSender::startAndStop()
         QVERIFY(used < 20 || timers().first().timerType == Qt::CoarseTimer); // Qt makes short ones precise
         sender.stop();
     }
+    const auto start = [&] { sender.start("x", 45454, 700, {QHostAddress("203.0.113.77")}); };
+    for (const auto &meanwhile :
+         {std::function<void()>(start), std::function<void()>([&] { sender.stop(); })}) {
+        start();
+        const ActingTracer tracer(meanwhile);
+        start();
+        QCOMPARE(timers().size(), 1);
+        QCOMPARE(sender.findChildren<QUdpSocket *>().size(), 1);
+    }
+    auto *const deleted = new BroadcastSender;
+    const ActingTracer tracer([&] { delete deleted; });
+    deleted->start("x", 45454, 700, {QHostAddress("203.0.113.77")});
     QTimerEvent foreign(-7);
     QCoreApplication::sendEvent(&sender, &foreign);
     QVERIFY(!foreign.isAccepted());

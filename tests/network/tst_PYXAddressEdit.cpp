@@ -145,6 +145,11 @@ void tst_PYXAddressEdit::switchingTheProtocol()
     edit.setProtocol(QAbstractSocket::IPv6Protocol);
     QVERIFY(edit.text() == "fd00::5" && changes == 4);
     QVERIFY(edit.setAddress(QHostAddress()) && edit.text().isEmpty() && changes == 5);
+    // Text and protocol may come from settings, in this order.
+    edit.setProtocol(QAbstractSocket::IPv4Protocol);
+    edit.setText("fd00::6");
+    edit.setProtocol(QAbstractSocket::IPv6Protocol);
+    QCOMPARE(edit.address(), QHostAddress("fd00::6"));
 }
 
 void tst_PYXAddressEdit::whatAScreenReaderSays()

@@ -43,6 +43,13 @@ class VaultProvider : public NullEncryptionProvider
 {
 public:
     QString encryptionProviderId() const override { return "Vault"; }
+    QString decryptToQString(const QByteArray &cipher) override
+    {
+        if (const auto once = std::exchange(whileAsking, {}))
+            once();
+        return NullEncryptionProvider::decryptToQString(cipher);
+    }
+    std::function<void()> whileAsking;
 };
 
 } // namespace
@@ -114,6 +121,15 @@ void tst_PYXProxyManager::appliesWhatIsStored()
     QCOMPARE(proxyInForce().password(), Password);
     const ProxyConfiguration &current = PYXProxyManager::currentProxyConfigurationWithoutPassword();
     QCOMPARE(current.proxyUsername() + current.proxyPassword(), "user");
+    vault->whileAsking = [] {
+        PYXProxyManager::applyProxyConfiguration(ProxyConfiguration("newer.example", 1));
+    };
+    PYXEncryptionManager::staticSetEncryptionProvider(vault.get());
+    QCOMPARE(proxyInForce().hostName(), "newer.example");
+    vault->whileAsking = [] { PYXProxyManager::destroyInstance(); };
+    PYXEncryptionManager::staticSetEncryptionProvider(vault.get());
+    QVERIFY(!PYXProxyManager::hasInstance());
+    PYXProxyManager::makeSureInitialized();
     // Qt keeps the factory of a manager that goes; the next manager brings another one.
     PYXProxyManager::destroyInstance();
     vault.reset();

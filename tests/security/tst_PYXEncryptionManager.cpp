@@ -169,6 +169,12 @@ void tst_PYXEncryptionManager::listenersMayDeleteAnything()
     connect(m_manager, &PYXEncryptionManager::si_registeredEncryptionProvidersChanged,
             [] { PYXEncryptionManager::destroyInstance(); });
     QVERIFY(!m_manager->registerAndSetEncryptionProvider(&other));
+
+    provider = new DeclaredProvider("Own");
+    PYXEncryptionManager::staticRegisterEncryptionProvider(&other);
+    PYXEncryptionManager::staticRegisterEncryptionProvider(provider);
+    const ActingTracer tracer([&] { delete provider; });
+    PYXEncryptionManager::destroyInstance();
 }
 
 void tst_PYXEncryptionManager::tracesWhoIsLeft()
