@@ -8,6 +8,7 @@
 #include <QtCore/QEvent>
 #include <QtCore/QSortFilterProxyModel>
 #include <QtWidgets/QHeaderView>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QTableView>
 
 namespace BandMonitor {
@@ -39,6 +40,7 @@ void DetectionDock::_retranslate()
 {
     setWindowTitle(tr("Signals"));
     m_table->setAccessibleName(tr("Detected signals"));
+    m_hint->setText(tr("No signals have been found yet."));
     retranslate(m_table);
 }
 
@@ -47,6 +49,7 @@ void DetectionDock::_createTable()
     m_table->setObjectName(QStringLiteral("detectionTable"));
     makeCompact(m_table, font());
     m_table->setModel(m_sortedModel);
+    m_hint = addHint(m_table);
     m_table->setSortingEnabled(true);
     m_table->sortByColumn(DetectionModel::ekColumn_Frequency, Qt::AscendingOrder);
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
