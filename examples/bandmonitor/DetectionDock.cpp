@@ -12,6 +12,11 @@
 #include <QtWidgets/QTableView>
 
 namespace BandMonitor {
+namespace {
+
+constexpr int FrequencyPadding = 24; // for the mark of the state, and the arrow in the heading
+
+} // namespace
 
 DetectionDock::DetectionDock(QWidget *parent)
     : QDockWidget(parent)
@@ -61,7 +66,8 @@ void DetectionDock::_createTable()
     header->setSectionResizeMode(QHeaderView::Stretch);
     header->setSectionResizeMode(DetectionModel::ekColumn_Frequency, QHeaderView::Fixed);
     header->resizeSection(DetectionModel::ekColumn_Frequency,
-                          m_table->fontMetrics().horizontalAdvance(QStringLiteral("-00000.000 kHz")));
+                          m_table->fontMetrics().horizontalAdvance(QStringLiteral("-00000.000 kHz")) +
+                              FrequencyPadding);
 }
 
 const QAbstractItemModel &DetectionDock::table() const
