@@ -6,14 +6,17 @@
 #include <PYXIApplicationInfo.h>
 #include <PYXSettings.h>
 
-#include <QtCore/QCoreApplication>
 #include <QtCore/QDir>
+#include <QtGui/QIcon>
+#include <QtWidgets/QApplication>
 #include <QtWidgets/QMessageBox>
 
 using namespace PYXRuntime;
 
 namespace BandMonitor {
 namespace {
+
+constexpr int IconSize = 48;
 
 struct AboutBoxTexts
 {
@@ -34,6 +37,7 @@ void showAboutBox(QWidget *parent)
         AboutBoxTexts::tr("Shows the signals in a recording, or in a band of its own."), QMessageBox::Ok,
         parent);
     box->setObjectName(QStringLiteral("aboutBox"));
+    box->setIconPixmap(QApplication::windowIcon().pixmap(IconSize));
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     box->setInformativeText((bPortable ? AboutBoxTexts::tr("Settings, portable:\n%1\n\nQt %2")

@@ -6,6 +6,7 @@
 
 #include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QHeaderView>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QTableView>
 #include <QtWidgets/QVBoxLayout>
@@ -21,6 +22,7 @@ void makeCompact(QTableView *table, const QFont &font)
     table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 6);
     table->horizontalHeader()->setFont(table->font());
     table->horizontalHeader()->setHighlightSections(false);
+    table->horizontalHeader()->setTextElideMode(Qt::ElideRight);
 }
 
 QTableView *createCompactTable(QAbstractItemModel *model, const QFont &font)
@@ -31,8 +33,33 @@ QTableView *createCompactTable(QAbstractItemModel *model, const QFont &font)
     table->setSelectionBehavior(QAbstractItemView::SelectRows);
     table->setSelectionMode(QAbstractItemView::SingleSelection);
     table->setTabKeyNavigation(false);
-    table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    table->horizontalHeader()->setStretchLastSection(true);
     return table;
+}
+
+QLabel *addHint(QTableView *table)
+{
+    auto *const hint = new QLabel;
+    hint->setEnabled(false); // dimmed
+    hint->setWordWrap(true);
+    hint->setAlignment(Qt::AlignCenter);
+    (new QVBoxLayout(table->viewport()))->addWidget(hint);
+    const QAbstractItemModel *const model = table->model();
+    const auto update = [hint, model] { hint->setVisible(model->rowCount() == 0); };
+    QObject::connect(model, &QAbstractItemModel::rowsInserted, hint, update);
+    QObject::connect(model, &QAbstractItemModel::rowsRemoved, hint, update);
+    QObject::connect(model, &QAbstractItemModel::modelReset, hint, update);
+    update();
+    return hint;
+}
+
+void enableWithRow(const QTableView *table, QPushButton *button)
+{
+    const auto update = [table, button] { button->setEnabled(table->currentIndex().isValid()); };
+    QObject::connect(table->selectionModel(), &QItemSelectionModel::currentChanged, button, update);
+    QObject::connect(table->model(), &QAbstractItemModel::modelReset, button, update);
+    update();
 }
 
 void retranslate(QTableView *table)

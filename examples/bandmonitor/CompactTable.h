@@ -6,16 +6,21 @@
 
 class QAbstractItemModel;
 class QFont;
+class QLabel;
 class QPushButton;
 class QTableView;
 class QWidget;
 
 namespace BandMonitor {
 
-/** A table for a dock: rows are selected one at a time, columns share the width. */
+/** A table for a dock: rows are selected one at a time, columns are as wide as their texts. */
 QTableView *createCompactTable(QAbstractItemModel *model, const QFont &font);
 /** Low rows in a small font, without lines and frames. */
 void makeCompact(QTableView *table, const QFont &font);
+/** A label that is seen in the table while that has no rows. */
+QLabel *addHint(QTableView *table);
+/** Lets the button be pressed only while the table has a current row. */
+void enableWithRow(const QTableView *table, QPushButton *button);
 /** The table with its buttons in a row below. */
 QWidget *withButtons(QTableView *table, const QList<QPushButton *> &buttons);
 

@@ -8,9 +8,15 @@
 #include <QtCore/QEvent>
 #include <QtCore/QSortFilterProxyModel>
 #include <QtWidgets/QHeaderView>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QTableView>
 
 namespace BandMonitor {
+namespace {
+
+constexpr int FrequencyPadding = 24; // for the mark of the state, and the arrow in the heading
+
+} // namespace
 
 DetectionDock::DetectionDock(QWidget *parent)
     : QDockWidget(parent)
@@ -39,6 +45,7 @@ void DetectionDock::_retranslate()
 {
     setWindowTitle(tr("Signals"));
     m_table->setAccessibleName(tr("Detected signals"));
+    m_hint->setText(tr("No signals have been found yet."));
     retranslate(m_table);
 }
 
@@ -47,6 +54,7 @@ void DetectionDock::_createTable()
     m_table->setObjectName(QStringLiteral("detectionTable"));
     makeCompact(m_table, font());
     m_table->setModel(m_sortedModel);
+    m_hint = addHint(m_table);
     m_table->setSortingEnabled(true);
     m_table->sortByColumn(DetectionModel::ekColumn_Frequency, Qt::AscendingOrder);
     m_table->setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -58,7 +66,8 @@ void DetectionDock::_createTable()
     header->setSectionResizeMode(QHeaderView::Stretch);
     header->setSectionResizeMode(DetectionModel::ekColumn_Frequency, QHeaderView::Fixed);
     header->resizeSection(DetectionModel::ekColumn_Frequency,
-                          m_table->fontMetrics().horizontalAdvance(QStringLiteral("-00000.000 kHz")));
+                          m_table->fontMetrics().horizontalAdvance(QStringLiteral("-00000.000 kHz")) +
+                              FrequencyPadding);
 }
 
 const QAbstractItemModel &DetectionDock::table() const

@@ -10,6 +10,7 @@
 
 class QAbstractItemModel;
 class QSortFilterProxyModel;
+class QLabel;
 class QTableView;
 
 namespace BandMonitor {
@@ -42,6 +43,7 @@ private:
     DetectionModel *m_model;
     QSortFilterProxyModel *m_sortedModel;
     QTableView *m_table;
+    QLabel *m_hint = nullptr;
 };
 
 } // namespace BandMonitor

@@ -12,6 +12,7 @@ namespace {
 
 const QLatin1String CacheName("/recordings");
 constexpr int Steps = 1000;
+constexpr int UrlWidth = 400;
 
 QString cacheDirectory()
 {
@@ -61,7 +62,8 @@ void FetchDialog::_retranslate()
 {
     setWindowTitle(tr("Open URL"));
     // The password that a URL may have is not for the screen.
-    setLabelText(tr("Fetching %1").arg(m_url.toDisplayString(QUrl::RemoveUserInfo)));
+    const QString url = m_url.toDisplayString(QUrl::RemoveUserInfo);
+    setLabelText(tr("Fetching %1").arg(fontMetrics().elidedText(url, Qt::ElideMiddle, UrlWidth)));
 }
 
 void FetchDialog::_sl_fetcher_progress(qint64 a_received, qint64 a_total)

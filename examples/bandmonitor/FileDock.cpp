@@ -10,6 +10,7 @@
 #include <QtCore/QUrl>
 #include <QtGui/QDesktopServices>
 #include <QtWidgets/QHeaderView>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QTableView>
 
@@ -19,13 +20,16 @@ FileDock::FileDock(QWidget *parent)
     : QDockWidget(parent)
     , m_model(new FileModel(this))
     , m_table(createCompactTable(m_model, font()))
+    , m_hint(addHint(m_table))
     , m_openButton(new QPushButton)
     , m_folderButton(new QPushButton)
 {
     setObjectName(QStringLiteral("fileDock"));
     m_table->setObjectName(QStringLiteral("fileTable"));
-    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+    m_table->horizontalHeader()->setStretchLastSection(false);
     m_table->horizontalHeader()->setSectionResizeMode(FileModel::ekColumn_File, QHeaderView::Stretch);
+    enableWithRow(m_table, m_openButton);
+    enableWithRow(m_table, m_folderButton);
     connect(m_openButton, &QPushButton::clicked, this, [this] { _open(false); });
     connect(m_folderButton, &QPushButton::clicked, this, [this] { _open(true); });
     connect(m_table, &QTableView::activated, this, [this] { _open(false); });
@@ -44,6 +48,7 @@ void FileDock::_retranslate()
 {
     setWindowTitle(tr("Files"));
     m_table->setAccessibleName(tr("Written files"));
+    m_hint->setText(tr("No files have been written yet."));
     m_openButton->setText(tr("Open F&ile"));
     m_folderButton->setText(tr("Open F&older"));
     retranslate(m_table);

@@ -4,6 +4,7 @@
 
 #include <QtWidgets/QDockWidget>
 
+class QLabel;
 class QPushButton;
 class QTableView;
 
@@ -27,6 +28,7 @@ private:
 
     FileModel *m_model;
     QTableView *m_table;
+    QLabel *m_hint;
     QPushButton *m_openButton;
     QPushButton *m_folderButton;
 };

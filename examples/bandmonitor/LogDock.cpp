@@ -15,19 +15,23 @@
 namespace BandMonitor {
 namespace {
 
-constexpr QRgb WarningColour = qRgb(0xd9, 0x82, 0x00);
-constexpr QRgb ErrorColour = qRgb(0xe0, 0x3c, 0x31);
+constexpr QRgb WarningColour = qRgb(0xa8, 0x5a, 0x00);
+constexpr QRgb WarningColourOnDark = qRgb(0xf0, 0xa0, 0x30);
+constexpr QRgb ErrorColour = qRgb(0xc8, 0x24, 0x1c);
+constexpr QRgb ErrorColourOnDark = qRgb(0xff, 0x6f, 0x61);
 
 QColor colourOf(LogTracer::eLevel severity, const QPalette &palette)
 {
     const QColor &text = palette.color(QPalette::Text);
+    const QColor &base = palette.color(QPalette::Base);
+    const bool bOnDark = base.lightness() < text.lightness();
     switch (severity) {
     case LogTracer::ekLevel_Warn:
-        return WarningColour;
+        return bOnDark ? WarningColourOnDark : WarningColour;
     case LogTracer::ekLevel_Error:
-        return ErrorColour;
+        return bOnDark ? ErrorColourOnDark : ErrorColour;
     case LogTracer::ekLevel_Debug:
-        return mixed(text, palette.color(QPalette::Base), 0.25);
+        return mixed(text, base, 0.25);
     default:
         return text;
     }
@@ -68,6 +72,10 @@ void LogDock::changeEvent(QEvent *event)
     if (event->type() == QEvent::LanguageChange)
         _retranslate();
     QDockWidget::changeEvent(event);
+    if (event->type() != QEvent::PaletteChange)
+        return;
+    for (QTextBlock block = m_view->document()->begin(); block.isValid(); block = block.next())
+        _colour(block);
 }
 
 void LogDock::_retranslate()
@@ -89,10 +97,17 @@ void LogDock::_showLine(const LogTracer::struLine &line)
     const QString time = QDateTime::fromMSecsSinceEpoch(line.time).toString(QStringLiteral("HH:mm:ss"));
     m_view->appendPlainText(time + QLatin1String("  ") + shortOrigin(line.origin) + QLatin1String("  ") +
                             line.text);
-    QTextCursor cursor(m_view->document()->lastBlock());
+    QTextBlock block = m_view->document()->lastBlock();
+    block.setUserState(line.severity);
+    _colour(block);
+}
+
+void LogDock::_colour(const QTextBlock &block) const
+{
+    QTextCursor cursor(block);
     cursor.select(QTextCursor::BlockUnderCursor);
     QTextCharFormat format;
-    format.setForeground(colourOf(line.severity, palette()));
+    format.setForeground(colourOf(LogTracer::eLevel(block.userState()), palette()));
     cursor.mergeCharFormat(format);
 }
 

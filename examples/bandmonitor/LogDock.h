@@ -7,6 +7,7 @@
 #include <QtWidgets/QDockWidget>
 
 class QPlainTextEdit;
+class QTextBlock;
 
 namespace BandMonitor {
 
@@ -28,6 +29,8 @@ private:
     void _retranslate();
     void _showLines();
     void _showLine(const LogTracer::struLine &line);
+    /** As its severity and the present palette want it. */
+    void _colour(const QTextBlock &block) const;
 
     LogTracer m_tracer;
     QPlainTextEdit *m_view;

@@ -17,7 +17,6 @@
 #include "MainActions.h"
 #include "PlotArea.h"
 #include "PoolDock.h"
-#include "RecentRecordings.h"
 #include "SHW_Display_Window.h"
 #include "SignalMonitor.h"
 #include "SignalPopups.h"
@@ -33,6 +32,7 @@
 #include <PYXFileFilter.h>
 #include <PYXIApplicationInfo.h>
 #include <PYXNotification.h>
+#include <PYXRecentFilesMenu.h>
 #include <PYXSettings.h>
 #include <PYXStandardIcons.h>
 #include <PYXTraceWrapper.h>
@@ -47,6 +47,7 @@
 
 using PYXRuntime::PYXFileFilter;
 using PYXRuntime::PYXNotification;
+using PYXRuntime::PYXRecentFilesMenu;
 using PYXRuntime::PYXSettings;
 using PYXRuntime::PYXStandardIcons;
 using PYXRuntime::PYXTraceWrapper;
@@ -58,6 +59,7 @@ const char TraceFile[] = "bandmonitor\\MainWindow";
 
 const QLatin1String GeometryKey("MainWindow/Geometry");
 const QLatin1String StateKey("MainWindow/State");
+const QLatin1String RecentKey("RecentRecordings");
 
 // Which question that is, among those that are not asked again.
 const QLatin1String CloseQuestionModule("BandMonitor");
@@ -66,8 +68,10 @@ const QLatin1String CloseQuestion("CloseWhileRecording");
 const QLatin1String RecordingsFilter("Recordings");
 const QLatin1String TablesFilter("Tables");
 
+constexpr int UrlQuestionWidth = 480;
+
 // How the window is divided at first.
-constexpr double TableShare = 0.62;
+constexpr double TableShare = 0.55;
 constexpr double DockShare = 0.27;
 
 } // namespace
@@ -78,6 +82,7 @@ MainWindow::MainWindow(QWidget *parent)
     , m_plots(new PlotArea)
     , m_stateBar(new StateBar)
     , m_popups(new SignalPopups(this))
+    , m_recentMenu(new PYXRecentFilesMenu(RecentKey, this))
 {
     setObjectName(QStringLiteral("mainWindow"));
     _showTitle();
@@ -246,9 +251,8 @@ void MainWindow::_registerFilters()
 void MainWindow::_createActions()
 {
     _registerFilters();
-    auto *const recentMenu = new RecentRecordings(this);
-    connect(recentMenu, &RecentRecordings::si_chosen, this, &MainWindow::openRecording);
-    m_actions = new MainActions(this, recentMenu);
+    connect(m_recentMenu, &PYXRecentFilesMenu::si_fileChosen, this, &MainWindow::openRecording);
+    m_actions = new MainActions(this, m_recentMenu);
     const auto onTriggered = [this](MainActions::eAction id, auto slot) {
         connect(m_actions->action(id), &QAction::triggered, this, slot);
     };
@@ -294,7 +298,7 @@ bool MainWindow::openRecording(const QString &path)
     }
     m_path = path;
     if (m_bKeepSettings)
-        RecentRecordings::add(path);
+        m_recentMenu->addFile(path);
     play(std::move(recording));
     return true;
 }
@@ -389,10 +393,20 @@ void MainWindow::_sl_openAction_triggered()
 
 void MainWindow::_sl_openUrlAction_triggered()
 {
-    const QString text = QInputDialog::getText(this, tr("Open URL"), tr("Address of the recording:"),
-                                               QLineEdit::Normal, QStringLiteral("https://"));
-    const QUrl url = QUrl::fromUserInput(text.trimmed());
-    if (text.isEmpty() || !url.isValid())
+    auto *const question = new QInputDialog(this);
+    question->setAttribute(Qt::WA_DeleteOnClose);
+    question->setWindowTitle(tr("Open URL"));
+    question->setLabelText(tr("Address of the recording:"));
+    question->setTextValue(QStringLiteral("https://"));
+    question->resize(UrlQuestionWidth, question->sizeHint().height());
+    connect(question, &QInputDialog::textValueSelected, this, &MainWindow::_fetchRecording);
+    question->open();
+}
+
+void MainWindow::_fetchRecording(const QString &address)
+{
+    const QUrl url = QUrl::fromUserInput(address.trimmed());
+    if (!url.isValid())
         return;
     auto *const dialog = new FetchDialog(url, this);
     connect(dialog, &FetchDialog::si_fetched, this, &MainWindow::openRecording);

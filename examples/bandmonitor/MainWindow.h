@@ -12,6 +12,7 @@
 
 namespace PYXRuntime {
 class PYXAppInternalsImpl;
+class PYXRecentFilesMenu;
 class PYXSettings;
 } // namespace PYXRuntime
 
@@ -23,7 +24,6 @@ class DetectionRecorder;
 class DeveloperDocks;
 class MainActions;
 class PlotArea;
-class RecentRecordings;
 class SignalMonitor;
 class SignalPopups;
 class StateBar;
@@ -77,6 +77,7 @@ private:
     bool _mayClose();
     void _sl_openAction_triggered();
     void _sl_openUrlAction_triggered();
+    void _fetchRecording(const QString &address);
     void _sl_saveAction_triggered();
     void _sl_settings_applied();
     void _retranslate();
@@ -96,6 +97,7 @@ private:
     PlotArea *m_plots;
     StateBar *m_stateBar;
     SignalPopups *m_popups;
+    PYXRuntime::PYXRecentFilesMenu *m_recentMenu;
     MainActions *m_actions = nullptr;
     DetectionDock *m_detectionDock = nullptr;
     StationDock *m_stationDock = nullptr;

@@ -3,6 +3,7 @@
 #include "SHW_Detector_Parameters.h"
 
 #include <PYXSettings.h>
+#include <PYXStandardIcons.h>
 
 #include <QtWidgets/QDoubleSpinBox>
 #include <QtWidgets/QFormLayout>
@@ -10,6 +11,7 @@
 #include <QtWidgets/QSpinBox>
 
 using PYXRuntime::PYXSettings;
+using PYXRuntime::PYXStandardIcons;
 
 namespace BandMonitor {
 
@@ -23,6 +25,7 @@ SHW_Detector_Parameters::SHW_Detector_Parameters(QWidget *parent)
     , m_gapBox(new QSpinBox)
 {
     setObjectName(QStringLiteral("SHW_Detector_Parameters"));
+    setIcon(PYXStandardIcons::staticRegisteredIcon(PYXStandardIcons::ekIcon_Display_Tool_Level));
     m_thresholdBox->setRange(struDetectorParameters::SmallestThreshold,
                              struDetectorParameters::LargestThreshold);
     m_gapBox->setObjectName(QStringLiteral("gapBox"));

@@ -3,11 +3,13 @@
 #include "SHW_Display_Window.h"
 
 #include <PYXSettings.h>
+#include <PYXStandardIcons.h>
 
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QVBoxLayout>
 
 using PYXRuntime::PYXSettings;
+using PYXRuntime::PYXStandardIcons;
 
 namespace BandMonitor {
 namespace {
@@ -25,6 +27,7 @@ SHW_Display_Window::SHW_Display_Window(QWidget *parent)
     , m_announceBox(new QCheckBox)
 {
     setObjectName(QStringLiteral("SHW_Display_Window"));
+    setIcon(PYXStandardIcons::staticRegisteredIcon(PYXStandardIcons::ekIcon_Color_Select));
     m_darkBox->setObjectName(QStringLiteral("darkBox"));
     auto *const layout = new QVBoxLayout(this);
     layout->addWidget(m_darkBox);

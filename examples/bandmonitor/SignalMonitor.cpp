@@ -17,7 +17,9 @@ constexpr std::size_t BlockSize = 16384;
 // Switched on by the line "BandMonitor:+d" in config/pyxRuntimeScopes.cfg beside the program; the line
 // "*:+td" leads the messages into the log as well.
 const uint s_scope = PYXRuntime::PYXRuntimeCenter::registerRuntimeScope(
-    QStringLiteral("BandMonitor"), QStringLiteral("State of the signal detector, once a second"));
+    QStringLiteral("BandMonitor"),
+    QStringLiteral(
+        QT_TRANSLATE_NOOP("PYXRuntime::RuntimeScopes", "State of the signal detector, once a second")));
 
 } // namespace
 

@@ -10,6 +10,7 @@
 
 #include <QtCore/QEvent>
 #include <QtWidgets/QHBoxLayout>
+#include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QTableView>
 
@@ -29,6 +30,8 @@ StationDock::StationDock(QWidget *parent)
     , m_peers(new PeerModel(*m_stations, this))
     , m_stationTable(createCompactTable(m_stations, font()))
     , m_peerTable(createCompactTable(m_peers, font()))
+    , m_stationHint(addHint(m_stationTable))
+    , m_peerHint(addHint(m_peerTable))
     , m_keepButton(new QPushButton)
     , m_addButton(new QPushButton)
     , m_removeButton(new QPushButton)
@@ -55,6 +58,8 @@ void StationDock::_retranslate()
     setWindowTitle(tr("Stations"));
     m_stationTable->setAccessibleName(tr("Stations on air"));
     m_peerTable->setAccessibleName(tr("Peers"));
+    m_stationHint->setText(tr("No other Band Monitor has been heard yet."));
+    m_peerHint->setText(tr("There are no peers yet: keep a station, or add one."));
     m_keepButton->setText(tr("&Keep as Peer"));
     m_addButton->setText(tr("&Add"));
     m_removeButton->setText(tr("&Remove"));
@@ -65,6 +70,7 @@ void StationDock::_retranslate()
 QWidget *StationDock::_createStations()
 {
     m_stationTable->setObjectName(QStringLiteral("stationTable"));
+    enableWithRow(m_stationTable, m_keepButton);
     connect(m_keepButton, &QPushButton::clicked, this, &StationDock::_sl_keepButton_clicked);
     return withButtons(m_stationTable, {m_keepButton});
 }
@@ -74,6 +80,7 @@ QWidget *StationDock::_createPeers()
     m_peerTable->setObjectName(QStringLiteral("peerTable"));
     m_addButton->setObjectName(QStringLiteral("addPeerButton"));
     m_removeButton->setObjectName(QStringLiteral("removePeerButton"));
+    enableWithRow(m_peerTable, m_removeButton);
     connect(m_addButton, &QPushButton::clicked, this, &StationDock::_sl_addButton_clicked);
     connect(m_removeButton, &QPushButton::clicked, this, &StationDock::_sl_removeButton_clicked);
     return withButtons(m_peerTable, {m_addButton, m_removeButton});

@@ -9,6 +9,7 @@
 
 #include <QtWidgets/QDockWidget>
 
+class QLabel;
 class QPushButton;
 class QTableView;
 
@@ -45,6 +46,8 @@ private:
     PeerModel *m_peers;
     QTableView *m_stationTable;
     QTableView *m_peerTable;
+    QLabel *m_stationHint;
+    QLabel *m_peerHint;
     QPushButton *m_keepButton;
     QPushButton *m_addButton;
     QPushButton *m_removeButton;

@@ -53,6 +53,8 @@ public:
 
     /**
      * Registers a scope, or gives a registered one a new purpose: it keeps its switches.
+     * @param purpose may be marked QT_TRANSLATE_NOOP("PYXRuntime::RuntimeScopes", ...); the settings page of
+     * the scopes translates it
      * @return the token, the same for this name in every process of one kind of machine.
      */
     static uint registerRuntimeScope(const QString &name, const QString &purpose);

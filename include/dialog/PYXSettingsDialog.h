@@ -112,6 +112,7 @@ private:
     void _fillPages();
     void _showConfigurableButtons();
     void _sortTree();
+    void _sortSoon();
     void _showFirstPage(PYXSettingsHandlerWidget *pageToShow);
     void _restoreWindow();
     void _storeWindow(PYXSettings &settings) const;
@@ -139,6 +140,7 @@ private:
     PYXSettings *m_shared = nullptr;
     PYXSettings *m_sharedDefaults = nullptr;
     bool m_bClosing = false;
+    bool m_bSortsSoon = false;
     bool m_bCollectingChanges = false; ///< the buttons are brought up to date once, at the end
     QList<QTreeWidgetItem *> m_categories;
     QMap<QTreeWidgetItem *, PYXSettingsHandlerWidget *> m_pages;

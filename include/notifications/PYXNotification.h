@@ -121,7 +121,7 @@ public:
     void setDefaultButton(StandardButton button);
     StandardButton defaultButton() const { return m_defaultButton; }
 
-    /** NoButton until one was clicked. */
+    /** NoButton until one was clicked since the dialog was shown. */
     StandardButton clickedButton() const { return m_clickedButton; }
     /** The state of the check box; at first true. */
     bool showAgain() const;

@@ -483,6 +483,25 @@
     </message>
 </context>
 <context>
+    <name>PYXRuntime::RuntimeScopes</name>
+    <message>
+        <source>Application information and special directories</source>
+        <translation>Anwendungsinformation und besondere Verzeichnisse</translation>
+    </message>
+    <message>
+        <source>Name filters and places of file dialogs</source>
+        <translation>Namensfilter und Orte der Dateidialoge</translation>
+    </message>
+    <message>
+        <source>Files that counting file sets open and close</source>
+        <translation>Dateien, die von zählenden Dateisätzen geöffnet und geschlossen werden</translation>
+    </message>
+    <message>
+        <source>How often icons are asked for</source>
+        <translation>Wie oft Symbole angefordert werden</translation>
+    </message>
+</context>
+<context>
     <name>PYXRuntime::SHW_Debug_AppMode</name>
     <message>
         <source>Application Mode</source>
@@ -572,7 +591,7 @@
     </message>
     <message>
         <source>Copy &amp;debug messages to the trace</source>
-        <translation>&amp;Debug-Meldungen auch in die Ablaufverfolgung schreiben</translation>
+        <translation>Deb&amp;ug-Meldungen auch in die Ablaufverfolgung schreiben</translation>
     </message>
     <message>
         <source>Otherwise they only go to the debugger or the standard error output</source>
@@ -580,7 +599,7 @@
     </message>
     <message>
         <source>Copy &amp;warnings to the trace</source>
-        <translation>&amp;Warnungen auch in die Ablaufverfolgung schreiben</translation>
+        <translation>Wa&amp;rnungen auch in die Ablaufverfolgung schreiben</translation>
     </message>
 </context>
 <context>
@@ -655,6 +674,10 @@
     <message>
         <source>Clears all marks; Apply shows the messages again</source>
         <translation>Entfernt alle Markierungen; „Anwenden“ zeigt die Meldungen wieder an</translation>
+    </message>
+    <message>
+        <source>No messages are hidden.</source>
+        <translation>Es sind keine Meldungen ausgeblendet.</translation>
     </message>
 </context>
 <context>
@@ -746,16 +769,8 @@
         <translation>Netzwerkeinträge</translation>
     </message>
     <message>
-        <source>Add &amp;Entry</source>
-        <translation>&amp;Eintrag hinzufügen</translation>
-    </message>
-    <message>
         <source>Adds an entry and begins to edit it</source>
         <translation>Fügt einen Eintrag hinzu und beginnt, ihn zu bearbeiten</translation>
-    </message>
-    <message>
-        <source>Remo&amp;ve Entry</source>
-        <translation>Eintrag entf&amp;ernen</translation>
     </message>
     <message>
         <source>Removes the current entry</source>
@@ -776,6 +791,18 @@
     <message>
         <source>Writes all entries to a file</source>
         <translation>Schreibt alle Einträge in eine Datei</translation>
+    </message>
+    <message>
+        <source>There are no entries yet.</source>
+        <translation>Es gibt noch keine Einträge.</translation>
+    </message>
+    <message>
+        <source>A&amp;dd</source>
+        <translation>&amp;Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve</source>
+        <translation>E&amp;ntfernen</translation>
     </message>
 </context>
 <context>

@@ -483,6 +483,25 @@
     </message>
 </context>
 <context>
+    <name>PYXRuntime::RuntimeScopes</name>
+    <message>
+        <source>Application information and special directories</source>
+        <translation>Informations sur l’application et répertoires particuliers</translation>
+    </message>
+    <message>
+        <source>Name filters and places of file dialogs</source>
+        <translation>Filtres de noms et emplacements des dialogues de fichiers</translation>
+    </message>
+    <message>
+        <source>Files that counting file sets open and close</source>
+        <translation>Fichiers ouverts et fermés par les séries de fichiers</translation>
+    </message>
+    <message>
+        <source>How often icons are asked for</source>
+        <translation>Fréquence des demandes d’icônes</translation>
+    </message>
+</context>
+<context>
     <name>PYXRuntime::SHW_Debug_AppMode</name>
     <message>
         <source>Application Mode</source>
@@ -580,7 +599,7 @@
     </message>
     <message>
         <source>Copy &amp;warnings to the trace</source>
-        <translation>Copier les &amp;avertissements dans la trace</translation>
+        <translation>Copier les a&amp;vertissements dans la trace</translation>
     </message>
 </context>
 <context>
@@ -655,6 +674,10 @@
     <message>
         <source>Clears all marks; Apply shows the messages again</source>
         <translation>Décoche tout ; « Appliquer » affiche de nouveau les messages</translation>
+    </message>
+    <message>
+        <source>No messages are hidden.</source>
+        <translation>Aucun message n’est masqué.</translation>
     </message>
 </context>
 <context>
@@ -746,16 +769,8 @@
         <translation>Entrées réseau</translation>
     </message>
     <message>
-        <source>Add &amp;Entry</source>
-        <translation>Ajouter une &amp;entrée</translation>
-    </message>
-    <message>
         <source>Adds an entry and begins to edit it</source>
         <translation>Ajoute une entrée et commence à la modifier</translation>
-    </message>
-    <message>
-        <source>Remo&amp;ve Entry</source>
-        <translation>Su&amp;pprimer l’entrée</translation>
     </message>
     <message>
         <source>Removes the current entry</source>
@@ -776,6 +791,18 @@
     <message>
         <source>Writes all entries to a file</source>
         <translation>Écrit toutes les entrées dans un fichier</translation>
+    </message>
+    <message>
+        <source>There are no entries yet.</source>
+        <translation>Il n’y a pas encore d’entrées.</translation>
+    </message>
+    <message>
+        <source>A&amp;dd</source>
+        <translation>A&amp;jouter</translation>
+    </message>
+    <message>
+        <source>Remo&amp;ve</source>
+        <translation>Suppri&amp;mer</translation>
     </message>
 </context>
 <context>

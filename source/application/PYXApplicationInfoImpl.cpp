@@ -22,7 +22,9 @@ namespace {
 using SpecialDirTable::struSpecialDir;
 
 const uint s_runtimeScope = PYXRuntimeCenter::registerRuntimeScope(
-    QStringLiteral("PYXApplicationInfoImpl"), QStringLiteral("application information, special directories"));
+    QStringLiteral("PYXApplicationInfoImpl"),
+    QStringLiteral(
+        QT_TRANSLATE_NOOP("PYXRuntime::RuntimeScopes", "Application information and special directories")));
 
 constexpr char Unknown[] = ".";
 constexpr char MarkerFile[] = "portable";

@@ -16,7 +16,9 @@ namespace PYXRuntime {
 namespace {
 
 const uint s_runtimeScope = PYXRuntimeCenter::registerRuntimeScope(
-    QStringLiteral("PYXFileFilter"), QStringLiteral("name filters and places of file dialogs"));
+    QStringLiteral("PYXFileFilter"),
+    QStringLiteral(
+        QT_TRANSLATE_NOOP("PYXRuntime::RuntimeScopes", "Name filters and places of file dialogs")));
 
 struct struFilter
 {

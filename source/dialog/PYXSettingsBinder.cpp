@@ -34,7 +34,7 @@ int indexOf(const QComboBox &box, const QVariant &value, PYXSettingsBinder::eCom
         break;
     }
     const int index = value.toInt();
-    return index < box.count() ? index : -1;
+    return index >= 0 && index < box.count() ? index : -1;
 }
 
 QVariant comboValue(const QComboBox &box, PYXSettingsBinder::eComboValue what)

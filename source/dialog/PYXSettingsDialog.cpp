@@ -30,7 +30,7 @@ const QLatin1String NoHelpConnector("Help connector interface not found");
 const QLatin1String AlreadyRunning("The settings dialog is running already");
 const QLatin1String GeometryKey("SettingsDialog/Geometry");
 const QLatin1String SplitterKey("SettingsDialog/SplitterState");
-constexpr QSize FirstSize(840, 600);
+constexpr QSize FirstSize(880, 620);
 
 QString helpActionName(const QObject *page)
 {
@@ -140,6 +140,7 @@ bool PYXSettingsDialog::registerSettingsHandler(PYXSettingsHandlerWidget *page)
         _bindPage(page);
         page->initContents();
         page->sl_modified();
+        _sortSoon();
     }
     return true;
 }
@@ -209,6 +210,7 @@ void PYXSettingsDialog::renameCategory(int index, const QString &name)
     if (index < 0 || index >= m_categories.size())
         return;
     showTitle(*m_categories.at(index), name);
+    _sortSoon();
 }
 
 int PYXSettingsDialog::categoryIndex(const QString &name) const
@@ -320,6 +322,20 @@ void PYXSettingsDialog::_sortTree()
     m_form->tree->sortPages();
 }
 
+void PYXSettingsDialog::_sortSoon()
+{
+    if (m_settings == nullptr || m_bSortsSoon)
+        return; // the next run sorts, or all of a new language are sorted at once
+    m_bSortsSoon = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            m_bSortsSoon = false;
+            _sortTree();
+        },
+        Qt::QueuedConnection);
+}
+
 void PYXSettingsDialog::_showFirstPage(PYXSettingsHandlerWidget *pageToShow)
 {
     QTreeWidgetItem *item = _itemOf(pageToShow);
@@ -349,6 +365,8 @@ void PYXSettingsDialog::_restoreWindow()
     }
     if (m_settings->contains(SplitterKey))
         m_form->splitter->restoreState(m_settings->byteArrayValue(SplitterKey));
+    else
+        m_form->fitTree(width());
 }
 
 void PYXSettingsDialog::_storeWindow(PYXSettings &settings) const
@@ -372,10 +390,12 @@ bool PYXSettingsDialog::eventFilter(QObject *watched, QEvent *event)
     if (event->type() == QEvent::DynamicPropertyChange) {
         QTreeWidgetItem *const item = _itemOf(watched);
         const QByteArray name = static_cast<QDynamicPropertyChangeEvent *>(event)->propertyName();
-        if (item != nullptr && name == "::TITLE::")
+        if (item != nullptr && name == "::TITLE::") {
             showTitle(*item, m_pages.value(item)->title());
-        else if (item != nullptr && name == "::ICON::")
+            _sortSoon();
+        } else if (item != nullptr && name == "::ICON::") {
             item->setIcon(0, m_pages.value(item)->icon());
+        }
     }
     return QDialog::eventFilter(watched, event);
 }

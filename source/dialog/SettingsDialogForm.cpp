@@ -15,6 +15,7 @@
 #include <QtWidgets/QScrollArea>
 #include <QtWidgets/QSplitter>
 #include <QtWidgets/QStackedWidget>
+#include <QtWidgets/QStyle>
 #include <QtWidgets/QVBoxLayout>
 
 namespace PYXRuntime {
@@ -24,8 +25,7 @@ constexpr auto PageButtons =
     QDialogButtonBox::Apply | QDialogButtonBox::Reset | QDialogButtonBox::RestoreDefaults;
 constexpr auto DialogButtons = PageButtons | QDialogButtonBox::Ok | QDialogButtonBox::Close |
                                QDialogButtonBox::Discard | QDialogButtonBox::Help;
-constexpr int TreeWidth = 200;
-constexpr int PageWidth = 600;
+constexpr int UsualTreeWidth = 200;
 
 QScrollArea *areaAround(const QWidget *page)
 {
@@ -52,7 +52,6 @@ SettingsDialogForm::SettingsDialogForm(QDialog &dialog)
     splitter->addWidget(_makePageSide());
     splitter->setStretchFactor(1, 1);
     splitter->setChildrenCollapsible(false);
-    splitter->setSizes({TreeWidth, PageWidth});
     auto *const line = new QFrame;
     line->setObjectName(QStringLiteral("line"));
     line->setFrameShape(QFrame::HLine);
@@ -98,6 +97,10 @@ QWidget *SettingsDialogForm::_makePageSide()
     stack->addWidget(empty);
     pageBox = new QDialogButtonBox(PageButtons);
     pageBox->setObjectName(QStringLiteral("m_ButtonBoxPage"));
+    // In line with what is on the page, which has margins.
+    const QStyle *const style = side->style();
+    pageBox->setContentsMargins(style->pixelMetric(QStyle::PM_LayoutLeftMargin), 0,
+                                style->pixelMetric(QStyle::PM_LayoutRightMargin), 0);
     layout->addWidget(stack, 1);
     layout->addWidget(pageBox);
     return side;
@@ -193,6 +196,12 @@ void SettingsDialogForm::removeEmptyAreas() const
     }
 }
 
+void SettingsDialogForm::fitTree(int wholeWidth) const
+{
+    const int treeWidth = qBound(UsualTreeWidth, tree->fittingWidth(), wholeWidth / 2);
+    splitter->setSizes({treeWidth, wholeWidth - treeWidth});
+}
+
 void SettingsDialogForm::filter(const QString &words,
                                 const QMap<QTreeWidgetItem *, PYXSettingsHandlerWidget *> &pages) const
 {
@@ -210,8 +219,9 @@ void SettingsDialogForm::filter(const QString &words,
         QTreeWidgetItem *const item = tree->topLevelItem(i);
         if (!SettingsTree::isCategory(item))
             continue;
-        const QTreeWidgetItem *const first = SettingsTree::firstPageOf(item);
-        item->setHidden(first == nullptr || first->isHidden());
+        // One without pages is shown or hidden for other reasons.
+        if (const QTreeWidgetItem *const first = SettingsTree::firstPageOf(item))
+            item->setHidden(first->isHidden());
         if (!wanted.isEmpty())
             item->setExpanded(true);
     }

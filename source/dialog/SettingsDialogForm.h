@@ -41,6 +41,8 @@ public:
     /** Removes the scroll area of a page that is destroyed already. */
     void removeEmptyAreas() const;
 
+    /** Gives the tree its usual width, or as much more as its texts need. */
+    void fitTree(int wholeWidth) const;
     /** Shows only the pages that have these words, and their categories. An empty text shows all. */
     void filter(const QString &words, const QMap<QTreeWidgetItem *, PYXSettingsHandlerWidget *> &pages) const;
 

@@ -3,7 +3,12 @@
 #include "SettingsTree.h"
 
 #include <QtCore/QSignalBlocker>
+#include <QtGui/QPainter>
+#include <QtGui/QWindow>
 #include <QtWidgets/QHeaderView>
+#include <QtWidgets/QScrollBar>
+#include <QtWidgets/QStyledItemDelegate>
+#include <QtWidgets/QTreeWidgetItemIterator>
 
 namespace PYXRuntime {
 namespace {
@@ -12,6 +17,34 @@ bool isShown(const QTreeWidgetItem *item)
 {
     return !item->isHidden();
 }
+
+/** In the colour of the selected text, as the icon's own colours may be those of the selection. */
+QIcon onSelection(const QIcon &icon, const QSize &size, const QStyleOptionViewItem &option)
+{
+    const QWindow *const window = option.widget->window()->windowHandle();
+    QPixmap pixmap = icon.pixmap(const_cast<QWindow *>(window), size);
+    QPainter painter(&pixmap);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(pixmap.rect(), option.palette.color(QPalette::HighlightedText));
+    painter.end();
+    QIcon result;
+    result.addPixmap(pixmap, QIcon::Selected);
+    return result;
+}
+
+class ItemDelegate final : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (option->state.testFlag(QStyle::State_Selected) && !option->icon.isNull())
+            option->icon = onSelection(option->icon, option->decorationSize, *option);
+    }
+};
 
 QTreeWidgetItem *lastPageOf(const QTreeWidgetItem *category)
 {
@@ -31,6 +64,7 @@ SettingsTree::SettingsTree(QWidget *parent)
     header()->hide();
     setSelectionMode(SingleSelection);
     setUniformRowHeights(true);
+    setItemDelegate(new ItemDelegate(this));
 }
 
 SettingsTree::~SettingsTree() = default;
@@ -70,6 +104,16 @@ QList<QTreeWidgetItem *> SettingsTree::pageItems() const
             items += top->child(j);
     }
     return items;
+}
+
+int SettingsTree::fittingWidth()
+{
+    int widest = 0;
+    for (QTreeWidgetItemIterator it(this); *it != nullptr; ++it) {
+        const int level = (*it)->parent() != nullptr ? 2 : 1;
+        widest = qMax(widest, level * indentation() + sizeHintForIndex(indexFromItem(*it)).width());
+    }
+    return widest + 2 * frameWidth() + verticalScrollBar()->sizeHint().width();
 }
 
 void SettingsTree::sortPages()

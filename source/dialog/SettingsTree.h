@@ -25,6 +25,8 @@ public:
     /** Every item that is no category, hidden or not, from top to bottom. */
     QList<QTreeWidgetItem *> pageItems() const;
 
+    /** So wide that no text is cut, not even of an item that is not seen. */
+    int fittingWidth();
     /** By text, with the pages without category before all categories; nothing is signalled. */
     void sortPages();
 

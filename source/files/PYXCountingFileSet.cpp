@@ -22,7 +22,9 @@ const uint s_libraryScope =
     PYXRuntimeCenter::registerRuntimeScope(QStringLiteral("PYXRuntime"), QStringLiteral("PYXRuntime"));
 // Switches the messages of this class alone.
 const uint s_classScope = PYXRuntimeCenter::registerRuntimeScope(
-    QStringLiteral("CountingFileSet"), QStringLiteral("files that counting file sets open and close"));
+    QStringLiteral("CountingFileSet"),
+    QStringLiteral(
+        QT_TRANSLATE_NOOP("PYXRuntime::RuntimeScopes", "Files that counting file sets open and close")));
 
 const struct
 {

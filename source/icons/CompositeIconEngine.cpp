@@ -35,6 +35,14 @@ QRect pixelsOf(const QRectF &area, const QSize &size)
     return {topLeft, end - QPoint(1, 1)};
 }
 
+/** So large is the whole where the icon in the area has that size. */
+QSize wholeSize(const QSize &size, const QRectF &area)
+{
+    constexpr qreal Largest = 1 << 14; // an area may be as small as it likes
+    return {qRound(std::min(size.width() / area.width(), Largest)),
+            qRound(std::min(size.height() / area.height(), Largest))};
+}
+
 QSize united(const QList<QSize> &sizes)
 {
     QSize all(0, 0);
@@ -110,8 +118,7 @@ QSize CompositeIconEngine::drawnSize(const QSize &size, const struModeState &mod
         const QSize largest = largestSize(layer.icon);
         if (largest.isEmpty())
             return size;
-        bound = bound.expandedTo(
-            {qRound(largest.width() / layer.area.width()), qRound(largest.height() / layer.area.height())});
+        bound = bound.expandedTo(wholeSize(largest, layer.area));
     }
     bound *= std::max(qreal(1), highestScreenRatio() / m_ratio);
     if (bound.isEmpty() || (size.width() <= bound.width() && size.height() <= bound.height()))
@@ -149,8 +156,7 @@ QList<QSize> CompositeIconEngine::sizes(const struModeState &modeState) const
     for (const struCompositeIconLayer &layer : m_layers) {
         const struModeState drawnAs = layer.drawnAs.value(modeState, modeState);
         for (const QSize &size : layer.icon.availableSizes(drawnAs.mode, drawnAs.state)) {
-            const QSize whole(qRound(size.width() / layer.area.width()),
-                              qRound(size.height() / layer.area.height()));
+            const QSize whole = wholeSize(size, layer.area);
             if (isShown(layer, modeState) && !all.contains(whole))
                 all += whole;
         }

@@ -21,7 +21,8 @@ namespace {
 using Holder = SingletonHolder<PYXIconLoader>;
 
 const uint s_runtimeScope = PYXRuntimeCenter::registerRuntimeScope(
-    QStringLiteral("PYXIconLoader"), QStringLiteral("PYXIconLoader: how often icons are asked for"));
+    QStringLiteral("PYXIconLoader"),
+    QStringLiteral(QT_TRANSLATE_NOOP("PYXRuntime::RuntimeScopes", "How often icons are asked for")));
 
 uint keyOf(const struModeState &modeState)
 {

@@ -334,6 +334,8 @@ void PYXNotification::_sl_buttonBox_clicked(QAbstractButton *a_button)
 
 void PYXNotification::setVisible(bool visible)
 {
+    if (visible && isHidden())
+        m_clickedButton = QDialogButtonBox::NoButton; // of an earlier time
     QDialog::setVisible(visible);
     if (!visible)
         return;

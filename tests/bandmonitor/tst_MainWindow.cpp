@@ -5,7 +5,6 @@
 #include "Colours.h"
 #include "DetectionModel.h"
 #include "LogDock.h"
-#include "RecentRecordings.h"
 #include "SecondStart.h"
 #include "SignalMonitor.h"
 #include "SignalPopups.h"
@@ -15,6 +14,7 @@
 
 #include <PYXAppInternalsSimple.h>
 #include <PYXNotification.h>
+#include <PYXRecentFilesMenu.h>
 #include <PYXSingleInstance.h>
 #include <PYXTraceWrapper.h>
 
@@ -81,7 +81,6 @@ private Q_SLOTS:
     void playsInTime();
     void complainsAboutWhatIsNoRecording();
     void goesOnAsItWasClosed();
-    void keepsTheNewestRecordings();
     void refusesOddDetectorParameters();
     void tellsWhereItsSettingsAre();
     void savesTheSignals();
@@ -183,28 +182,12 @@ void tst_MainWindow::goesOnAsItWasClosed()
     QVERIFY(!window.findChild<QAction *>("popUpsAction")->isChecked());
     window.setDark(false);
 
-    auto *const recent = window.findChild<RecentRecordings *>();
-    Q_EMIT recent->aboutToShow();
+    auto *const recent = window.findChild<PYXRuntime::PYXRecentFilesMenu *>();
     QVERIFY(recent->actions().constFirst()->text().contains("tones.wav"));
     recent->actions().constFirst()->trigger();
+    QTRY_VERIFY(window.monitor() != nullptr);
     window.playToEnd();
     QCOMPARE(tableOf(window).rowCount(), 1);
-}
-
-void tst_MainWindow::keepsTheNewestRecordings()
-{
-    const SettingsHome home;
-    const auto path = [&home](int number) { return home.path(QString("%1 & more.wav").arg(number)); };
-    for (int i = 0; i < 2 * RecentRecordings::MaximumCount; ++i)
-        RecentRecordings::add(path(i));
-    RecentRecordings::add(path(12));
-    QCOMPARE(RecentRecordings::paths().size(), RecentRecordings::MaximumCount);
-    QCOMPARE(RecentRecordings::paths().mid(0, 3), QList<QString>({path(12), path(15), path(14)}));
-    RecentRecordings menu;
-    QCOMPARE(menu.actions().constFirst()->text(), "&1  12 && more.wav");
-    QVERIFY(!menu.actions().constFirst()->isEnabled()); // the file is gone
-    menu.actions().constLast()->trigger();
-    QVERIFY(RecentRecordings::paths().isEmpty());
 }
 
 void tst_MainWindow::refusesOddDetectorParameters()

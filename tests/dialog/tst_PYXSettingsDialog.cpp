@@ -543,6 +543,10 @@ void tst_PYXSettingsDialog::searching()
         QVERIFY(f.dialog.activePage() == f.a && f.dialog.isVisible());
         QTest::keyClick(line, Qt::Key_Escape);
         QCOMPARE(f.treeText(), QString("D Y(C) Z(A B)"));
+        f.dialog.addCategory("Empty");
+        line->setText("z");
+        line->clear();
+        QVERIFY(f.treeText().endsWith("Empty"));
         QTest::keyClick(line, Qt::Key_Escape);
         QVERIFY(!f.dialog.isVisible());
     });
@@ -566,6 +570,8 @@ void tst_PYXSettingsDialog::helpAndLanguage()
         f.d->calls.clear();
         emit connector.si_localeChanged();
         QCOMPARE(f.d->calls, QStringList("retranslate"));
+        f.a->setTitle("Last");
+        QTRY_COMPARE(f.treeText(), QString("D Y(C) Z(B Last)"));
     });
 }
 

@@ -166,6 +166,7 @@ void tst_SettingsPages::everyPageOpensUntouchedAndNamed()
         for (const auto *const page : qAsConst(pages)) {
             QVERIFY(f.dialog.categoryIndex(const_cast<PYXSettingsHandlerWidget *>(page)) >= 0);
             QVERIFY(page->minimumSizeHint().width() < 560); // beside the tree, on a screen of 800
+            QVERIFY(!page->property("::ICON::").value<QIcon>().isNull());
         }
     });
     QStringList keys = f.settings.allKeys(true);
@@ -387,8 +388,8 @@ void tst_SettingsPages::networkEntries()
             model->setData(model->index(row, column), texts.at(column));
     };
     f.run([&] {
-        control<QPushButton>(*page, "Add Entry")->click();
-        control<QPushButton>(*page, "Add Entry")->click();
+        control<QPushButton>(*page, "Add")->click();
+        control<QPushButton>(*page, "Add")->click();
         set(0, {"North", "10.0.0.5", "8080"});
         set(1, {"North", "10.0.0.500", "70000"});
         QCOMPARE(errorsOf(*page).size(), 4); // the name in both rows

@@ -169,6 +169,8 @@ void tst_PYXNotification::choosesTheDefaultButton()
         QCOMPARE(dialog.focusWidget(), buttonOf(dialog, expected)); // not the check box
         QTest::keyClick(&dialog, Qt::Key_Return);
         QCOMPARE(dialog.clickedButton(), expected);
+        dialog.show();
+        QCOMPARE(dialog.clickedButton(), Box::NoButton); // not that of the last time
     }
     whenShown([](PYXNotification &dialog) { QTest::keyClick(&dialog, Qt::Key_Return); });
     QCOMPARE(PYXNotification::critical(nullptr, "Title", "text", "a", "b", Box::NoButton), Box::Ok);

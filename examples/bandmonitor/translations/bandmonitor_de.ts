@@ -108,6 +108,10 @@ Qt %2</translation>
         <source>Detected signals</source>
         <translation>Erkannte Signale</translation>
     </message>
+    <message>
+        <source>No signals have been found yet.</source>
+        <translation>Es wurden noch keine Signale gefunden.</translation>
+    </message>
 </context>
 <context>
     <name>BandMonitor::DetectionModel</name>
@@ -179,6 +183,10 @@ Qt %2</translation>
     <message>
         <source>Open F&amp;older</source>
         <translation>&amp;Ordner öffnen</translation>
+    </message>
+    <message>
+        <source>No files have been written yet.</source>
+        <translation>Es wurden noch keine Dateien geschrieben.</translation>
     </message>
 </context>
 <context>
@@ -262,7 +270,7 @@ Qt %2</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation>B&amp;eenden</translation>
+        <translation>Been&amp;den</translation>
     </message>
     <message>
         <source>&amp;Play</source>
@@ -427,25 +435,6 @@ Qt %2</translation>
     </message>
 </context>
 <context>
-    <name>BandMonitor::RecentRecordings</name>
-    <message>
-        <source>Open &amp;Recent</source>
-        <translation>&amp;Zuletzt geöffnet</translation>
-    </message>
-    <message>
-        <source>&amp;%1  %2</source>
-        <translation>&amp;%1  %2</translation>
-    </message>
-    <message>
-        <source>None</source>
-        <translation>Keine</translation>
-    </message>
-    <message>
-        <source>&amp;Clear List</source>
-        <translation>&amp;Liste leeren</translation>
-    </message>
-</context>
-<context>
     <name>BandMonitor::RecordingFetcher</name>
     <message>
         <source>The connection was closed before the end of the file.</source>
@@ -585,6 +574,14 @@ Qt %2</translation>
     <message>
         <source>New peer</source>
         <translation>Neue Gegenstelle</translation>
+    </message>
+    <message>
+        <source>No other Band Monitor has been heard yet.</source>
+        <translation>Es wurde noch kein anderer Band Monitor gehört.</translation>
+    </message>
+    <message>
+        <source>There are no peers yet: keep a station, or add one.</source>
+        <translation>Es gibt noch keine Gegenstellen: eine Station merken oder eine hinzufügen.</translation>
     </message>
 </context>
 <context>
@@ -755,6 +752,13 @@ Qt %2</translation>
     <message>
         <source>%1 is running already, but cannot be reached. This is a window of its own.</source>
         <translation>%1 läuft bereits, ist aber nicht erreichbar. Dies ist ein eigenes Fenster.</translation>
+    </message>
+</context>
+<context>
+    <name>PYXRuntime::RuntimeScopes</name>
+    <message>
+        <source>State of the signal detector, once a second</source>
+        <translation>Zustand des Signaldetektors, einmal in der Sekunde</translation>
     </message>
 </context>
 </TS>

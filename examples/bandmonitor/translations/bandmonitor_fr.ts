@@ -16,7 +16,7 @@
 %1
 
 Qt %2</source>
-        <translation>Paramètres, mode portable :
+        <translation>Paramètres, mode portable&#xa0;:
 %1
 
 Qt %2</translation>
@@ -26,7 +26,7 @@ Qt %2</translation>
 %1
 
 Qt %2</source>
-        <translation>Paramètres :
+        <translation>Paramètres&#xa0;:
 %1
 
 Qt %2</translation>
@@ -55,7 +55,7 @@ Qt %2</translation>
     </message>
     <message>
         <source>WAV file: one channel of real samples, or two of I/Q.</source>
-        <translation>Fichier WAV : un canal d’échantillons réels ou deux canaux I/Q.</translation>
+        <translation>Fichier WAV&#xa0;: un canal d’échantillons réels ou deux canaux I/Q.</translation>
     </message>
     <message>
         <source>Print the detected signals instead of showing a window.</source>
@@ -83,7 +83,7 @@ Qt %2</translation>
     </message>
     <message>
         <source>Language of the texts: en, de or fr.</source>
-        <translation>Langue des textes : en, de ou fr.</translation>
+        <translation>Langue des textes&#xa0;: en, de ou fr.</translation>
     </message>
     <message>
         <source>LANGUAGE</source>
@@ -107,6 +107,10 @@ Qt %2</translation>
     <message>
         <source>Detected signals</source>
         <translation>Signaux détectés</translation>
+    </message>
+    <message>
+        <source>No signals have been found yet.</source>
+        <translation>Aucun signal n’a encore été détecté.</translation>
     </message>
 </context>
 <context>
@@ -174,11 +178,15 @@ Qt %2</translation>
     </message>
     <message>
         <source>Open F&amp;ile</source>
-        <translation>Ouvrir le f&amp;ichier</translation>
+        <translation>Ouvrir le fic&amp;hier</translation>
     </message>
     <message>
         <source>Open F&amp;older</source>
         <translation>Ouvrir le d&amp;ossier</translation>
+    </message>
+    <message>
+        <source>No files have been written yet.</source>
+        <translation>Aucun fichier n’a encore été écrit.</translation>
     </message>
 </context>
 <context>
@@ -224,7 +232,7 @@ Qt %2</translation>
     <name>BandMonitor::HeadlessRun</name>
     <message>
         <source>%1 (%2, %3), signals: %4</source>
-        <translation>%1 (%2, %3), signaux : %4</translation>
+        <translation>%1 (%2, %3), signaux&#xa0;: %4</translation>
     </message>
 </context>
 <context>
@@ -337,7 +345,7 @@ Qt %2</translation>
     </message>
     <message>
         <source>Detections are being recorded. Stop that and quit?</source>
-        <translation>Des détections sont en cours d’enregistrement. Arrêter et quitter ?</translation>
+        <translation>Des détections sont en cours d’enregistrement. Arrêter et quitter&#x202f;?</translation>
     </message>
     <message>
         <source>Recordings</source>
@@ -353,7 +361,7 @@ Qt %2</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Detections cannot be recorded.</source>
@@ -369,7 +377,7 @@ Qt %2</translation>
     </message>
     <message>
         <source>Address of the recording:</source>
-        <translation>Adresse de l’enregistrement :</translation>
+        <translation>Adresse de l’enregistrement&#xa0;:</translation>
     </message>
     <message>
         <source>This recording cannot be fetched.</source>
@@ -415,34 +423,15 @@ Qt %2</translation>
     </message>
     <message>
         <source>In use: %1, free: %2</source>
-        <translation>Utilisés : %1, libres : %2</translation>
+        <translation>Utilisés&#xa0;: %1, libres&#xa0;: %2</translation>
     </message>
     <message>
         <source>Memory: %1, at most %2</source>
-        <translation>Mémoire : %1, maximum %2</translation>
+        <translation>Mémoire&#xa0;: %1, maximum %2</translation>
     </message>
     <message>
         <source>Reused: %1, made: %2</source>
-        <translation>Réutilisés : %1, créés : %2</translation>
-    </message>
-</context>
-<context>
-    <name>BandMonitor::RecentRecordings</name>
-    <message>
-        <source>Open &amp;Recent</source>
-        <translation>Fichiers &amp;récents</translation>
-    </message>
-    <message>
-        <source>&amp;%1  %2</source>
-        <translation>&amp;%1  %2</translation>
-    </message>
-    <message>
-        <source>None</source>
-        <translation>Aucun</translation>
-    </message>
-    <message>
-        <source>&amp;Clear List</source>
-        <translation>&amp;Vider la liste</translation>
+        <translation>Réutilisés&#xa0;: %1, créés&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -464,7 +453,7 @@ Qt %2</translation>
     </message>
     <message>
         <source>&amp;Threshold above the noise:</source>
-        <translation>&amp;Seuil au-dessus du bruit :</translation>
+        <translation>&amp;Seuil au-dessus du bruit&#xa0;:</translation>
     </message>
     <message>
         <source>A signal is found when it stands so far out of the noise.</source>
@@ -472,7 +461,7 @@ Qt %2</translation>
     </message>
     <message>
         <source>&amp;Hysteresis:</source>
-        <translation>&amp;Hystérésis :</translation>
+        <translation>&amp;Hystérésis&#xa0;:</translation>
     </message>
     <message>
         <source>A signal is lost when it has fallen so far below the threshold.</source>
@@ -480,7 +469,7 @@ Qt %2</translation>
     </message>
     <message>
         <source>&amp;Gaps within a signal up to:</source>
-        <translation>&amp;Trous dans un signal jusqu’à :</translation>
+        <translation>&amp;Trous dans un signal jusqu’à&#xa0;:</translation>
     </message>
     <message>
         <source>Parts that are no farther apart make one signal.</source>
@@ -580,11 +569,19 @@ Qt %2</translation>
     </message>
     <message>
         <source>Port %1 cannot be listened on: no stations will be shown.</source>
-        <translation>Impossible d’écouter sur le port %1 : aucune station ne sera affichée.</translation>
+        <translation>Impossible d’écouter sur le port %1&#xa0;: aucune station ne sera affichée.</translation>
     </message>
     <message>
         <source>New peer</source>
         <translation>Nouveau correspondant</translation>
+    </message>
+    <message>
+        <source>No other Band Monitor has been heard yet.</source>
+        <translation>Aucun autre Band Monitor n’a encore été entendu.</translation>
+    </message>
+    <message>
+        <source>There are no peers yet: keep a station, or add one.</source>
+        <translation>Il n’y a pas encore de correspondants&#xa0;: gardez une station ou ajoutez-en un.</translation>
     </message>
 </context>
 <context>
@@ -636,7 +633,7 @@ Qt %2</translation>
     </message>
     <message>
         <source>ends inside its chunk &quot;%1&quot;, before any samples</source>
-        <translation>se termine dans le bloc « %1 », avant tout échantillon</translation>
+        <translation>se termine dans le bloc «&#xa0;%1&#xa0;», avant tout échantillon</translation>
     </message>
     <message>
         <source>has more than %1 chunks before its samples</source>
@@ -660,7 +657,7 @@ Qt %2</translation>
     </message>
     <message>
         <source>is a RIFF file of type &quot;%1&quot;, not a WAV file</source>
-        <translation>est un fichier RIFF de type « %1 », pas un fichier WAV</translation>
+        <translation>est un fichier RIFF de type «&#xa0;%1&#xa0;», pas un fichier WAV</translation>
     </message>
     <message>
         <source>has a format chunk of only %1 bytes</source>
@@ -676,11 +673,11 @@ Qt %2</translation>
     </message>
     <message>
         <source>is compressed (%1); only PCM and float samples can be read</source>
-        <translation>est compressé (%1) ; seuls les échantillons PCM et flottants peuvent être lus</translation>
+        <translation>est compressé (%1)&#x202f;; seuls les échantillons PCM et flottants peuvent être lus</translation>
     </message>
     <message>
         <source>has %1 channels; it takes one (real) or two (I/Q)</source>
-        <translation>a %1 canaux ; il en faut un (réel) ou deux (I/Q)</translation>
+        <translation>a %1 canaux&#x202f;; il en faut un (réel) ou deux (I/Q)</translation>
     </message>
     <message>
         <source>claims a sample rate of zero</source>
@@ -711,19 +708,19 @@ Qt %2</translation>
     <name>BandMonitor::WavReader</name>
     <message>
         <source>&quot;%1&quot; ends before its header says, %2 samples are left</source>
-        <translation>« %1 » se termine plus tôt que ne l’indique son en-tête, il reste %2 échantillons</translation>
+        <translation>«&#xa0;%1&#xa0;» se termine plus tôt que ne l’indique son en-tête, il reste %2 échantillons</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a file.</source>
-        <translation>« %1 » n’est pas un fichier.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas un fichier.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be opened: %2.</source>
-        <translation>« %1 » ne peut pas être ouvert : %2.</translation>
+        <translation>«&#xa0;%1&#xa0;» ne peut pas être ouvert&#xa0;: %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; %2.</source>
-        <translation>« %1 » %2.</translation>
+        <translation>«&#xa0;%1&#xa0;» %2.</translation>
     </message>
     <message>
         <source>%1 bit float</source>
@@ -743,18 +740,25 @@ Qt %2</translation>
     <message>
         <source>bandmonitor: No trace file can be written: %1
 </source>
-        <translation>bandmonitor : impossible d’écrire un fichier journal : %1
+        <translation>bandmonitor&#xa0;: impossible d’écrire un fichier journal&#xa0;: %1
 </translation>
     </message>
     <message>
         <source>bandmonitor: The picture &quot;%1&quot; cannot be written.
 </source>
-        <translation>bandmonitor : impossible d’écrire l’image « %1 ».
+        <translation>bandmonitor&#xa0;: impossible d’écrire l’image «&#xa0;%1&#xa0;».
 </translation>
     </message>
     <message>
         <source>%1 is running already, but cannot be reached. This is a window of its own.</source>
         <translation>%1 est déjà en cours d’exécution, mais ne répond pas. Cette fenêtre est indépendante.</translation>
+    </message>
+</context>
+<context>
+    <name>PYXRuntime::RuntimeScopes</name>
+    <message>
+        <source>State of the signal detector, once a second</source>
+        <translation>État du détecteur de signaux, une fois par seconde</translation>
     </message>
 </context>
 </TS>

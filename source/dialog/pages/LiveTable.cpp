@@ -3,11 +3,10 @@
 #include "LiveTable.h"
 
 #include "LiveTableModel.h"
+#include "PageTable.h"
 
 #include <QtCore/QSortFilterProxyModel>
-#include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLineEdit>
-#include <QtWidgets/QTableView>
 #include <QtWidgets/QVBoxLayout>
 
 namespace PYXRuntime {
@@ -30,13 +29,12 @@ LiveTable::LiveTable(int keyCells, std::function<QVector<LiveRow>()> ask, QWidge
     m_proxy->setSortCaseSensitivity(Qt::CaseInsensitive);
     m_proxy->setFilterKeyColumn(-1);
     m_filter->setClearButtonEnabled(true);
+    prepareTable(*m_view);
     m_view->setModel(m_proxy);
     m_view->setSelectionBehavior(QTableView::SelectRows);
-    m_view->setTabKeyNavigation(false); // the key leads out of the table
     m_view->setSortingEnabled(true);
     m_view->sortByColumn(0, Qt::AscendingOrder);
     m_view->setWordWrap(false);
-    m_view->verticalHeader()->hide();
     m_view->horizontalHeader()->setStretchLastSection(true);
     auto *const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "ProxyTestDialog.h"
 
+#include "PageTable.h"
 #include "ProxyTester.h"
 
 #include <QtWidgets/QDialogButtonBox>
-#include <QtWidgets/QHeaderView>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QStyle>
@@ -49,13 +49,12 @@ void ProxyTestDialog::_makeForm()
     auto *const layout = new QVBoxLayout(this);
     auto *const description = new QLabel(_description());
     description->setWordWrap(true);
+    prepareTable(*m_table);
     m_table->setHorizontalHeaderLabels({tr("Site"), tr("Result")});
     m_table->setAccessibleName(tr("Sites and results"));
     m_table->horizontalHeader()->setSectionResizeMode(ekColumn_Site, QHeaderView::ResizeToContents);
     m_table->horizontalHeader()->setStretchLastSection(true);
-    m_table->verticalHeader()->hide();
     m_table->setSelectionBehavior(QTableWidget::SelectRows);
-    m_table->setTabKeyNavigation(false);
     m_summary->setWordWrap(true);
     auto *const buttons = new QDialogButtonBox(QDialogButtonBox::Close);
     buttons->addButton(m_start, QDialogButtonBox::ActionRole);
@@ -156,6 +155,8 @@ void ProxyTestDialog::_showState()
     const bool bRuns = m_pending > 0;
     for (QPushButton *const button : {m_start, m_add, m_remove})
         button->setEnabled(!bRuns);
+    if (!bRuns)
+        m_start->setFocus(); // which it has lost while it was disabled
     m_table->setEditTriggers(bRuns ? QTableWidget::NoEditTriggers
                                    : QTableWidget::DoubleClicked | QTableWidget::EditKeyPressed);
     m_summary->setText(bRuns ? tr("The test is running.")

@@ -4,6 +4,7 @@
 
 #include "PageTexts.h"
 #include "PYXSettings.h"
+#include "PYXStandardIcons.h"
 
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QVBoxLayout>
@@ -29,6 +30,7 @@ SHW_Debug_AppMode::SHW_Debug_AppMode(QWidget *parent)
     , m_expert(new QCheckBox)
 {
     setObjectName(QStringLiteral("SHW_Debug_AppMode"));
+    setIcon(PYXStandardIcons::staticRegisteredIcon(PYXStandardIcons::ekIcon_Options));
     auto *const layout = new QVBoxLayout(this);
     layout->addWidget(m_debug);
     layout->addWidget(m_expert);

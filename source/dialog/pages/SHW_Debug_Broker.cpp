@@ -5,6 +5,7 @@
 #include "LiveTable.h"
 #include "PageTexts.h"
 #include "PYXBroker.h"
+#include "PYXStandardIcons.h"
 
 #include <QtWidgets/QVBoxLayout>
 
@@ -25,6 +26,7 @@ SHW_Debug_Broker::SHW_Debug_Broker(QWidget *parent)
     }))
 {
     setObjectName(QStringLiteral("SHW_Debug_Broker"));
+    setIcon(PYXStandardIcons::staticRegisteredIcon(PYXStandardIcons::ekIcon_Link));
     auto *const layout = new QVBoxLayout(this);
     layout->addWidget(m_table);
     SHW_Debug_Broker::sl_retranslateUi();

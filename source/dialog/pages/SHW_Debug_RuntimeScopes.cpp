@@ -5,7 +5,9 @@
 #include "LiveTable.h"
 #include "PageTexts.h"
 #include "PYXRuntimeCenter.h"
+#include "PYXStandardIcons.h"
 
+#include <QtCore/QCoreApplication>
 #include <QtWidgets/QCheckBox>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QVBoxLayout>
@@ -20,25 +22,32 @@ struLiveCell mark(bool bOn)
     return {QString(), bOn ? Qt::Checked : Qt::Unchecked};
 }
 
+QString translatedPurpose(const PYXRuntimeCenter::RuntimeScope &scope)
+{
+    return QCoreApplication::translate("PYXRuntime::RuntimeScopes", scope.purpose.toUtf8().constData());
+}
+
 } // namespace
 
 SHW_Debug_RuntimeScopes::SHW_Debug_RuntimeScopes(QWidget *parent)
     : PYXBoundSettingsWidget(parent)
     , m_note(new QLabel)
-    , m_table(new LiveTable(
-          1,
-          [] {
-              QVector<LiveRow> rows;
-              const auto scopes = PYXRuntimeCenter::runtimeScopes();
-              for (const auto &scope : scopes)
-                  rows.append(
-                      {{scope.name}, mark(scope.debugEnabled), mark(scope.warningEnabled), {scope.purpose}});
-              return rows;
-          }))
+    , m_table(new LiveTable(1,
+                            [] {
+                                QVector<LiveRow> rows;
+                                const auto scopes = PYXRuntimeCenter::runtimeScopes();
+                                for (const auto &scope : scopes)
+                                    rows.append({{scope.name},
+                                                 mark(scope.debugEnabled),
+                                                 mark(scope.warningEnabled),
+                                                 {translatedPurpose(scope)}});
+                                return rows;
+                            }))
     , m_debugToTrace(new QCheckBox)
     , m_warningToTrace(new QCheckBox)
 {
     setObjectName(QStringLiteral("SHW_Debug_RuntimeScopes"));
+    setIcon(PYXStandardIcons::staticRegisteredIcon(PYXStandardIcons::ekIcon_GenericTool));
     m_note->setWordWrap(true);
     auto *const layout = new QVBoxLayout(this);
     layout->addWidget(m_note);

@@ -6,6 +6,7 @@
 #include "PYXBroker.h"
 #include "PYXITransConnector.h"
 #include "PYXSettings.h"
+#include "PYXStandardIcons.h"
 
 #include <QtCore/QSignalBlocker>
 #include <QtWidgets/QApplication>
@@ -60,6 +61,7 @@ SHW_General_Language::SHW_General_Language(QWidget *parent)
     , m_failure(new QLabel)
 {
     setObjectName(QStringLiteral("SHW_General_Language"));
+    setIcon(PYXStandardIcons::staticRegisteredIcon(PYXStandardIcons::ekIcon_Font_Select));
     systemStyle();
     m_localeLabel->setBuddy(m_locale);
     m_styleLabel->setBuddy(m_style);

@@ -4,6 +4,7 @@
 
 #include "PageTexts.h"
 #include "PYXNotification.h"
+#include "PYXStandardIcons.h"
 
 #include <QtCore/QSignalBlocker>
 #include <QtWidgets/QHeaderView>
@@ -27,6 +28,7 @@ SHW_General_Messages::SHW_General_Messages(QWidget *parent)
     , m_showAll(new QPushButton)
 {
     setObjectName(QStringLiteral("SHW_General_Messages"));
+    setIcon(PYXStandardIcons::staticRegisteredIcon(PYXStandardIcons::ekIcon_Info));
     m_note->setWordWrap(true);
     m_note->setBuddy(m_messages);
     m_messages->setRootIsDecorated(false);
@@ -118,6 +120,10 @@ int SHW_General_Messages::_countOf(Qt::CheckState state) const
 void SHW_General_Messages::locallyHandleModifications()
 {
     m_showAll->setEnabled(_countOf(Qt::Checked) > 0);
+    m_note->setText(
+        m_messages->topLevelItemCount() > 0
+            ? tr("&These messages are not shown. Clear the mark of those that you want to see again.")
+            : tr("No messages are hidden."));
 }
 
 void SHW_General_Messages::_sl_showAll_clicked()
@@ -133,10 +139,10 @@ void SHW_General_Messages::_sl_showAll_clicked()
 void SHW_General_Messages::sl_retranslateUi()
 {
     setHeading(PageTexts::general(), tr("Messages"));
-    m_note->setText(tr("&These messages are not shown. Clear the mark of those that you want to see again."));
     m_messages->setHeaderLabels({tr("Title"), tr("Message"), tr("Hidden")});
     m_messages->setAccessibleName(tr("Messages that are not shown"));
     _translateDurations();
+    locallyHandleModifications();
     m_showAll->setText(tr("Show &All Again"));
     m_showAll->setToolTip(tr("Clears all marks; Apply shows the messages again"));
 }

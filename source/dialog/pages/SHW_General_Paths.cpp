@@ -6,6 +6,7 @@
 #include "PYXBroker.h"
 #include "PYXIApplicationInfo.h"
 #include "PYXSettings.h"
+#include "PYXStandardIcons.h"
 #include "SharedPathSettings.h"
 
 #include <QtCore/QDir>
@@ -36,6 +37,7 @@ SHW_General_Paths::SHW_General_Paths(QWidget *parent)
     , m_form(new QFormLayout(this))
 {
     setObjectName(QStringLiteral("SHW_General_Paths"));
+    setIcon(PYXStandardIcons::staticRegisteredIcon(PYXStandardIcons::ekIcon_Browse_For_Folder));
     m_form->setFieldGrowthPolicy(QFormLayout::ExpandingFieldsGrow);
     for (const auto &path :
          {SharedPathSettings::Collections, SharedPathSettings::DetectorProfiles, SharedPathSettings::Scripts})

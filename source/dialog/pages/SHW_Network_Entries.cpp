@@ -3,20 +3,23 @@
 #include "SHW_Network_Entries.h"
 
 #include "NetworkEntriesModel.h"
+#include "PageTable.h"
 #include "PageTexts.h"
 #include "PYXSettings.h"
+#include "PYXStandardIcons.h"
 #include "PYXXmlSettings.h"
 
 #include <QtCore/QFileInfo>
 #include <QtWidgets/QFileDialog>
-#include <QtWidgets/QGridLayout>
-#include <QtWidgets/QHeaderView>
+#include <QtWidgets/QHBoxLayout>
 #include <QtWidgets/QLabel>
 #include <QtWidgets/QPushButton>
-#include <QtWidgets/QTableView>
+#include <QtWidgets/QVBoxLayout>
 
 namespace PYXRuntime {
 namespace {
+
+constexpr int NarrowestColumn = 12; // in characters
 
 QString fileFilter()
 {
@@ -43,23 +46,25 @@ SHW_Network_Entries::SHW_Network_Entries(const PYXNetworkEntryList &keys, QWidge
     , m_export(new QPushButton)
 {
     setObjectName(QStringLiteral("SHW_Network_Entries"));
+    setIcon(PYXStandardIcons::staticRegisteredIcon(PYXStandardIcons::ekIcon_Network_Computer));
     m_keys.clear();
+    prepareTable(*m_table);
     m_table->setModel(m_model);
-    m_table->setTabKeyNavigation(false);
-    m_table->verticalHeader()->hide();
-    m_table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
-    m_table->horizontalHeader()->setSectionResizeMode(NetworkEntriesModel::ekColumn_Name,
-                                                      QHeaderView::Stretch);
+    QHeaderView *const header = m_table->horizontalHeader();
+    header->setMinimumSectionSize(NarrowestColumn * m_table->fontMetrics().averageCharWidth());
+    header->setSectionResizeMode(QHeaderView::ResizeToContents);
+    header->setSectionResizeMode(NetworkEntriesModel::ekColumn_Name, QHeaderView::Stretch);
     m_result->setWordWrap(true);
-    auto *const layout = new QGridLayout(this);
-    layout->addWidget(m_table, 0, 0, 5, 1);
-    layout->setRowStretch(4, 1);
-    int row = 0;
+    auto *const layout = new QVBoxLayout(this);
+    layout->addWidget(m_table, 1);
+    layout->addWidget(m_result);
+    auto *const buttons = new QHBoxLayout;
+    layout->addLayout(buttons);
     for (QPushButton *const button : {m_add, m_remove, m_import, m_export}) {
         button->setAutoDefault(false);
-        layout->addWidget(button, row++, 1);
+        buttons->addWidget(button);
     }
-    layout->addWidget(m_result, 5, 0, 1, 2);
+    buttons->insertStretch(2);
     connect(m_model, &NetworkEntriesModel::si_edited, this, &SHW_Network_Entries::sl_modified);
     connect(m_table->selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex &current) { m_remove->setEnabled(current.isValid()); });
@@ -134,7 +139,7 @@ PYXNetworkEntryList SHW_Network_Entries::_stored(const PYXSettings *settings) co
 
 void SHW_Network_Entries::locallyHandleModifications()
 {
-    m_result->clear();
+    m_result->setText(m_model->rowCount() == 0 ? tr("There are no entries yet.") : QString());
 }
 
 int SHW_Network_Entries::importFrom(const QString &fileName)
@@ -216,15 +221,16 @@ void SHW_Network_Entries::sl_retranslateUi()
 {
     setHeading(PageTexts::network(), tr("Entries"));
     m_table->setAccessibleName(tr("Network entries"));
-    m_add->setText(tr("Add &Entry"));
+    m_add->setText(tr("A&dd"));
     m_add->setToolTip(tr("Adds an entry and begins to edit it"));
-    m_remove->setText(tr("Remo&ve Entry"));
+    m_remove->setText(tr("Remo&ve"));
     m_remove->setToolTip(tr("Removes the current entry"));
     m_import->setText(tr("&Import..."));
     m_import->setToolTip(tr("Adds the entries of a file"));
     m_export->setText(tr("E&xport..."));
     m_export->setToolTip(tr("Writes all entries to a file"));
     Q_EMIT m_model->headerDataChanged(Qt::Horizontal, 0, NetworkEntriesModel::ekColumn_Count - 1);
+    locallyHandleModifications();
 }
 
 } // namespace PYXRuntime

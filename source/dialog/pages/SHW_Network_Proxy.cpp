@@ -8,6 +8,7 @@
 #include "PYXProxyManager.h"
 #include "PYXSettings.h"
 #include "PYXSettingsDialog.h"
+#include "PYXStandardIcons.h"
 #include "WipedValue.h"
 
 #include <QtCore/QPointer>
@@ -74,6 +75,7 @@ SHW_Network_Proxy::SHW_Network_Proxy(QWidget *parent)
     , m_test(new QPushButton)
 {
     setObjectName(QStringLiteral("SHW_Network_Proxy"));
+    setIcon(PYXStandardIcons::staticRegisteredIcon(PYXStandardIcons::ekIcon_Directions));
     auto *const layout = new QVBoxLayout(this);
     for (const int type :
          {Enums::ekProxy_NoProxy, Enums::ekProxy_UseSystemSettings, Enums::ekProxy_ManualConfiguration}) {
