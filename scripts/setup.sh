@@ -2,9 +2,10 @@
 # SPDX-FileCopyrightText: 2026 The PYXRuntime developers
 # SPDX-License-Identifier: LGPL-3.0-or-later
 #
-# setup.sh [--dev] [--windows]: installs with apt what is missing on Debian 12.
+# setup.sh [--dev] [--packages] [--windows]: installs with apt what is missing on Debian 12.
 #   (nothing)   to build the library and the demo, and to run the tests
-#   --dev       also clang and its tools, sanitizers, fuzzing, documentation, benchmarks
+#   --dev       also clang and its tools, sanitizers, fuzzing, documentation, benchmarks, packages
+#   --packages  only what of this makes and checks the packages
 #   --windows   also what cross-builds for Windows and runs the result: MinGW and Wine
 # Uses sudo when it is not run by root. Does nothing, quickly, where everything is there.
 set -euo pipefail
@@ -12,9 +13,11 @@ set -euo pipefail
 base=(ca-certificates ccache cmake fonts-dejavu-core fonts-roboto-unhinted g++ git libkissfft-dev libqt5svg5-dev
     libsodium-dev ninja-build python3 python3-fonttools qtbase5-dev qtbase5-dev-tools qtkeychain-qt5-dev
     qttools5-dev-tools qttranslations5-l10n sox xauth xvfb)
-dev=(clang clang-format clang-tidy dbus doxygen gnome-keyring iproute2 libbenchmark-dev libclang-rt-14-dev
-    libgstreamer1.0-dev libkf5config-dev libkf5iconthemes-dev libmimalloc-dev libspdlog-dev llvm microsocks pkgconf
-    python3-pefile python3-pycryptodome qhelpgenerator-qt5 qtwayland5 shellcheck tinyproxy-bin valgrind weston)
+packaging=(abigail-tools dpkg-dev file lintian)
+dev=("${packaging[@]}" clang clang-format clang-tidy dbus doxygen gnome-keyring iproute2 libbenchmark-dev
+    libclang-rt-14-dev libgstreamer1.0-dev libkf5config-dev libkf5iconthemes-dev libmimalloc-dev libspdlog-dev llvm
+    microsocks pkgconf python3-pefile python3-pycryptodome qhelpgenerator-qt5 qtwayland5 shellcheck tinyproxy-bin
+    valgrind weston)
 windows=(binutils-mingw-w64-x86-64 bzip2 dpkg-dev g++-mingw-w64-x86-64-posix make patch perl qt5-qmake-bin wine
     wine64 xz-utils)
 
@@ -22,9 +25,10 @@ packages=("${base[@]}")
 for option in "$@"; do
     case $option in
         --dev) packages+=("${dev[@]}") ;;
+        --packages) packages+=("${packaging[@]}") ;;
         --windows) packages+=("${windows[@]}") ;;
         *)
-            echo "usage: setup.sh [--dev] [--windows]" >&2
+            echo "usage: setup.sh [--dev] [--packages] [--windows]" >&2
             exit 2
             ;;
     esac

@@ -10,8 +10,8 @@
 set -euo pipefail
 cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.."
 jobs=${PYX_JOBS:-$(nproc)}
-cache=${XDG_CACHE_HOME:-$HOME/.cache}/pyxruntime
-version=5.15.8
+# shellcheck source=scripts/windows/find-qt.sh
+source scripts/windows/find-qt.sh
 
 loudly() {
     {
@@ -26,40 +26,13 @@ cannot() {
     exit 77
 }
 
-unpack_qt() {
-    local scratch
-    scratch=$(mktemp -d "$cache/unpack.XXXXXX")
-    tar -C "$scratch" -xf "$1"
-    mv -T "$scratch/winqt-$version" "$cache/winqt-$version"
-    rmdir "$scratch"
-}
-
-find_qt() {
-    local archive
-    [ -n "${WINQT_PREFIX:-}" ] && return
-    WINQT_PREFIX=$cache/winqt-$version
-    [ -d "$WINQT_PREFIX" ] && return
-    for archive in ../shared/winqt/winqt-"$version"-*.tar.xz; do
-        if [ -e "$archive" ]; then
-            echo "Unpacking $archive"
-            unpack_qt "$archive"
-            return
-        fi
-    done
-    echo "There is no Qt for Windows yet: building one from Debian's sources. This takes about 45 minutes."
-    scripts/windows/build-qt-windows.sh "$WINQT_PREFIX"
-}
-
 scripts/setup.sh --windows || cannot "the packages of MinGW and Wine cannot be installed here."
 command -v x86_64-w64-mingw32-g++-posix >/dev/null || cannot "there is no x86_64-w64-mingw32-g++-posix."
 [ -x /usr/lib/wine/wine64 ] || cannot "there is no /usr/lib/wine/wine64."
 
-mkdir -p "$cache"
-# One run at a time: the programs of one Wine prefix share its server, and that one display.
-exec 9>"$cache/windows.lock"
-flock -n 9 || { echo "Waiting for another run of the Windows tests" && flock 9; }
+lock_wine
 find_qt
-export WINQT_PREFIX WINKISSFFT_PREFIX=${WINKISSFFT_PREFIX:-$cache/kissfft-mingw}
+export WINKISSFFT_PREFIX=${WINKISSFFT_PREFIX:-$cache/kissfft-mingw}
 examples=ON
 if ! scripts/windows/build-kissfft.sh "$WINKISSFFT_PREFIX"; then
     loudly "THE DEMO IS NOT BUILT FOR WINDOWS: KissFFT cannot be fetched."

@@ -6,6 +6,7 @@
 
 #include "PeBytes.h"
 #include "PYXFixedFileInfo.h"
+#include "pyxruntime_version.h"
 #include "PYXWinResVersion.h"
 
 #include <QtCore/QDir>
@@ -98,6 +99,7 @@ private slots:
     void filesOfTheSystem();
     void filesOfSeveralLanguages_data();
     void filesOfSeveralLanguages();
+    void thisLibrary();
 };
 
 void tst_SystemVersionInfo::filesOfTheSystem()
@@ -142,6 +144,15 @@ void tst_SystemVersionInfo::filesOfSeveralLanguages()
     file.write(PeBytes::file(true, resources(versions)));
     file.close();
     QCOMPARE(sameTexts(file.fileName()), 2); // by both spellings of its name
+}
+
+void tst_SystemVersionInfo::thisLibrary()
+{
+    const QString file = QCoreApplication::applicationDirPath() + "/PYXRuntime.dll";
+    QVERIFY(sameTexts(file) > 0);
+    PYXRuntime::PYXVersion fixed;
+    QVERIFY(PYXWinResVersion(file).getFixedFileInfoVersion(PYXWinResVersion::ekFileVersion, fixed));
+    QCOMPARE(fixed, PYXRuntime::PYXVersion(PYXRUNTIME_VERSION_STRING));
 }
 
 QTEST_GUILESS_MAIN(tst_SystemVersionInfo)
