@@ -97,7 +97,7 @@ def floor_of(race):
 
 
 def rows_of(race, threads, contestants):
-    for ours in (name for name in contestants if name.startswith("PYX")):
+    for ours in sorted(name for name in contestants if name.startswith("PYX")):
         for record in peers_of(race):
             if record.contestant in contestants:
                 theirs = contestants[record.contestant]
