@@ -85,10 +85,21 @@ void lookUpByHand(benchmark::State &state)
     }
 }
 
+/** What remains when the object is known. */
+void castAlone(benchmark::State &state)
+{
+    QObject *object = handMade().find(PYXRuntime::PYXBrokerInterface<IService>::id(), 0);
+    for (auto _ : state) {
+        benchmark::DoNotOptimize(object);
+        benchmark::DoNotOptimize(qobject_cast<IService *>(object));
+    }
+}
+
 } // namespace
 
 BENCHMARK(lookUpInBroker)->Name("broker/topObject/PYX")->Threads(1)->Threads(2)->UseRealTime();
 BENCHMARK(lookUpByHand)->Name("broker/topObject/by hand")->Threads(1)->Threads(2)->UseRealTime();
+BENCHMARK(castAlone)->Name("broker/topObject/floor")->Threads(1)->Threads(2)->UseRealTime();
 
 int main(int argc, char **argv)
 {

@@ -42,6 +42,12 @@ void disabledCategoryMessage(benchmark::State &state)
     }
 }
 
+void nothing(benchmark::State &state)
+{
+    for (auto _ : state)
+        benchmark::ClobberMemory();
+}
+
 /** Appends "file(line) : TRACE_WARN : text" to a buffered file, one line at a time. */
 class FileTracer : public Interfaces::IPYXTracer
 {
@@ -100,7 +106,18 @@ void traceToFile(benchmark::State &state)
     PYXTraceWrapper::removeTracer(&tracer);
 }
 
-/** The same line to a file of the same kind: buffered, locked, written by fwrite, not flushed. */
+void traceDirectly(benchmark::State &state)
+{
+    const QTemporaryDir directory;
+    FileTracer tracer(directory.filePath("trace"));
+    for (auto _ : state)
+        tracer.traceWarn(tracedText(), SourceFile, SourceLine);
+}
+
+/**
+ * The same line to a file of the same kind: buffered, locked, written by fwrite, not flushed; and without
+ * asking for the time, which is not in the line.
+ */
 void spdlogToFile(benchmark::State &state)
 {
     const QTemporaryDir directory;
@@ -108,9 +125,10 @@ void spdlogToFile(benchmark::State &state)
         std::make_shared<spdlog::sinks::basic_file_sink_mt>(directory.filePath("trace").toStdString());
     spdlog::logger logger("benchmark", sink);
     logger.set_pattern("%g(%#) : TRACE_WARN : %v");
+    const auto someTime = spdlog::log_clock::now();
     for (auto _ : state) {
         const QByteArray utf8 = tracedText().toUtf8();
-        logger.log(spdlog::source_loc(SourceFile, SourceLine, ""), spdlog::level::warn,
+        logger.log(someTime, spdlog::source_loc(SourceFile, SourceLine, ""), spdlog::level::warn,
                    spdlog::string_view_t(utf8.constData(), std::size_t(utf8.size())));
     }
 }
@@ -119,7 +137,9 @@ void spdlogToFile(benchmark::State &state)
 
 BENCHMARK(disabledScope)->Name("diagnostics/disabled message/PYX scope");
 BENCHMARK(disabledCategoryMessage)->Name("diagnostics/disabled message/qCDebug");
+BENCHMARK(nothing)->Name("diagnostics/disabled message/floor");
 BENCHMARK(traceToFile)->Name("diagnostics/trace line to a file/PYX");
 BENCHMARK(spdlogToFile)->Name("diagnostics/trace line to a file/spdlog");
+BENCHMARK(traceDirectly)->Name("diagnostics/trace line to a file/floor");
 
 BENCHMARK_MAIN();

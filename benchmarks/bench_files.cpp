@@ -9,10 +9,13 @@
 #include <QtCore/QTemporaryDir>
 
 #include <benchmark/benchmark.h>
+#include <cstring>
+#include <fcntl.h>
 #include <memory>
 #include <spdlog/pattern_formatter.h>
 #include <spdlog/sinks/rotating_file_sink.h>
 #include <spdlog/spdlog.h>
+#include <unistd.h>
 
 using namespace PYXRuntime;
 
@@ -113,12 +116,88 @@ void writeToSpdlog(benchmark::State &state, const QByteArray &data)
         logger->log(spdlog::level::info, view);
 }
 
+/** The system's file, begun anew like the others. */
+class RawFile
+{
+public:
+    explicit RawFile(const QTemporaryDir &directory)
+        : m_path(QFile::encodeName(directory.filePath(QStringLiteral("record"))))
+    {
+        begin();
+    }
+    ~RawFile() { ::close(m_file); }
+    RawFile(const RawFile &) = delete;
+    RawFile &operator=(const RawFile &) = delete;
+
+    bool write(const char *data, std::size_t size)
+    {
+        const bool bGood = ::write(m_file, data, size) == ssize_t(size);
+        m_size += qint64(size);
+        if (m_size >= BytesPerFile) {
+            ::close(m_file);
+            ::unlink(m_path.constData());
+            begin();
+        }
+        return bGood;
+    }
+
+private:
+    void begin()
+    {
+        m_file = ::open(m_path.constData(), O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
+        m_size = 0;
+    }
+
+    const QByteArray m_path;
+    int m_file = -1;
+    qint64 m_size = 0;
+};
+
+void writeRaw(benchmark::State &state)
+{
+    const QTemporaryDir directory;
+    RawFile file(directory);
+    const QByteArray data = block();
+    bool bGood = true;
+    for (auto _ : state)
+        bGood = file.write(data.constData(), std::size_t(data.size())) && bGood;
+    if (!bGood)
+        state.SkipWithError("not all was written");
+}
+
+/** Lines are copied into a buffer as large as that of a set of files. */
+void gatherLines(benchmark::State &state, const QByteArray &line)
+{
+    const QTemporaryDir directory;
+    RawFile file(directory);
+    std::vector<char> buffer(64 * 1024);
+    std::size_t used = 0;
+    bool bGood = true;
+    const auto size = std::size_t(line.size());
+    for (auto _ : state) {
+        if (used + size > buffer.size()) {
+            bGood = file.write(buffer.data(), used) && bGood;
+            used = 0;
+        }
+        std::memcpy(buffer.data() + used, line.constData(), size);
+        used += size;
+        benchmark::ClobberMemory();
+    }
+    if (!bGood)
+        state.SkipWithError("not all was written");
+}
+
 const char *const SourceFile = "source\\Demodulator";
 constexpr ushort SourceLine = 128;
 const QString &tracedText()
 {
     static const QString text("carrier at 433.92 MHz: level=-82.5 dBFS, symbol rate=9600");
     return text;
+}
+
+QByteArray finishedTraceLine()
+{
+    return "2026-11-21 12:00:00.000 INFO source\\Demodulator(128): " + tracedText().toUtf8() + '\n';
 }
 
 void traceToFiles(benchmark::State &state)
@@ -158,10 +237,13 @@ BENCHMARK(sizeSetBlocks)->Name("files/writes of 64 KiB/PYX sizes counted");
 BENCHMARK(lineSetBlocks)->Name("files/writes of 64 KiB/PYX lines counted");
 BENCHMARK_CAPTURE(writeToFile, blocks, block())->Name("files/writes of 64 KiB/QFile");
 BENCHMARK_CAPTURE(writeToSpdlog, blocks, block())->Name("files/writes of 64 KiB/spdlog");
+BENCHMARK(writeRaw)->Name("files/writes of 64 KiB/floor");
 BENCHMARK(lineSetLines)->Name("files/lines of 100 bytes/PYX lines counted");
 BENCHMARK_CAPTURE(writeToFile, lines, textLine())->Name("files/lines of 100 bytes/QFile");
 BENCHMARK_CAPTURE(writeToSpdlog, lines, textLine())->Name("files/lines of 100 bytes/spdlog");
+BENCHMARK_CAPTURE(gatherLines, lines, textLine())->Name("files/lines of 100 bytes/floor");
 BENCHMARK(traceToFiles)->Name("files/trace line/PYXFileTracer");
 BENCHMARK(spdlogToFiles)->Name("files/trace line/spdlog");
+BENCHMARK_CAPTURE(gatherLines, traces, finishedTraceLine())->Name("files/trace line/floor");
 
 BENCHMARK_MAIN();

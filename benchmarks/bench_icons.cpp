@@ -150,19 +150,19 @@ void loadWithKIconLoader(benchmark::State &state)
 }
 #endif
 
-/** Parsed once, rendered four times, and nothing else. */
+/** Parsed once, rendered four times, and nothing else. The drawings are kept, as those of the loader are. */
 void renderBare(benchmark::State &state)
 {
-    std::unique_ptr<QSvgRenderer> renderer;
+    std::vector<std::unique_ptr<QSvgRenderer>> renderers;
     timeColdPass(
-        state, [] {},
+        state, [&] { renderers.clear(); },
         [&](int i, int side) {
             if (side == Sides[0])
-                renderer = std::make_unique<QSvgRenderer>(theme().files().at(i));
+                renderers.push_back(std::make_unique<QSvgRenderer>(theme().files().at(i)));
             QImage image(side, side, QImage::Format_ARGB32_Premultiplied);
             image.fill(Qt::transparent);
             QPainter painter(&image);
-            renderer->render(&painter);
+            renderers.back()->render(&painter);
             painter.end();
             return QPixmap::fromImage(std::move(image));
         });
@@ -247,6 +247,18 @@ private:
     int m_batches;
 };
 
+/** The loop as it is, as long as the loading takes about. */
+void idleEventLoop(benchmark::State &state)
+{
+    for (auto _ : state) {
+        QEventLoop loop;
+        HeartBeat heartBeat;
+        QTimer::singleShot(50, &loop, &QEventLoop::quit);
+        loop.exec();
+        state.SetIterationTime(heartBeat.longest_s());
+    }
+}
+
 /** Caches all standard icons while an event loop runs; the time is the longest hold of that loop. */
 void holdEventLoop(benchmark::State &state, bool bInBatches)
 {
@@ -293,6 +305,11 @@ BENCHMARK_CAPTURE(holdEventLoop, batches, true)
     ->Iterations(1);
 BENCHMARK_CAPTURE(holdEventLoop, atOnce, false)
     ->Name("icons/longest hold while all are cached/all at once")
+    ->UseManualTime()
+    ->Iterations(1);
+
+BENCHMARK(idleEventLoop)
+    ->Name("icons/longest hold while all are cached/floor")
     ->UseManualTime()
     ->Iterations(1);
 

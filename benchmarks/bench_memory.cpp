@@ -15,6 +15,7 @@
 #include <memory_resource>
 #include <mutex>
 #include <thread>
+#include <vector>
 
 #ifdef PYX_HAS_GSTREAMER
 #include <gst/gst.h>
@@ -89,6 +90,24 @@ public:
     using Pointer = std::shared_ptr<void>;
     Pointer get(std::size_t bytes) { return {std::malloc(bytes), std::free}; }
     static void *data(const Pointer &pointer) { return pointer.get(); }
+};
+
+/** Areas that are there already, handed out in turn: more of a size than a queue and two threads hold. */
+class ReadyAreas
+{
+public:
+    using Pointer = std::shared_ptr<void>;
+    Pointer get(std::size_t bytes)
+    {
+        if (bytes == SampleBuffer)
+            return {m_areas.front().data(), [](void *) {}};
+        return {m_areas[m_next++ % m_areas.size()].data(), [](void *) {}};
+    }
+    static void *data(const Pointer &pointer) { return pointer.get(); }
+
+private:
+    std::vector<std::vector<char>> m_areas{QueueLength + 4, std::vector<char>(LargestFrame)};
+    std::size_t m_next = 0;
 };
 
 #ifdef PYX_MIMALLOC_LIBRARY
@@ -267,6 +286,8 @@ BENCHMARK_TEMPLATE(acquireAndRelease, PmrPool)->Name("memory/acquire and release
 BENCHMARK_TEMPLATE(acquireAndRelease, PmrAllocateShared)
     ->Name("memory/acquire and release 64 KiB/pmr allocate_shared");
 BENCHMARK_TEMPLATE(acquireAndRelease, Heap)->Name("memory/acquire and release 64 KiB/malloc");
+BENCHMARK_TEMPLATE(acquireAndRelease, ReadyAreas)->Name("memory/acquire and release 64 KiB/floor");
+BENCHMARK_TEMPLATE(framePipeline, ReadyAreas)->Name("memory/frame pipeline/floor")->UseRealTime();
 BENCHMARK_TEMPLATE(framePipeline, PyxPool)->Name("memory/frame pipeline/PYXMemoryPool")->UseRealTime();
 BENCHMARK_TEMPLATE(framePipeline, PmrPool)->Name("memory/frame pipeline/pmr")->UseRealTime();
 #ifdef PYX_MIMALLOC_LIBRARY

@@ -9,9 +9,11 @@
 
 #include <QtCore/QCoreApplication>
 #include <QtCore/QFile>
+#include <QtCore/QSaveFile>
 #include <QtCore/QTemporaryDir>
 
 #include <benchmark/benchmark.h>
+#include <vector>
 
 #ifdef PYX_HAS_KCONFIG
 #include <KConfig>
@@ -94,6 +96,41 @@ struct IniStore : QtStore
     {}
 };
 
+/** The keys and values of the read race, as any format would have to hand them to QSettings. */
+const QSettings::SettingsMap &readyMap()
+{
+    static const QSettings::SettingsMap map = [] {
+        std::vector<QString> keys; // one after the other in memory, as our reader makes them
+        for (int i = 0; i < ReadKeys; ++i)
+            keys.push_back(groupName(i / KeysPerGroup) + QLatin1Char('/') + keyName(i % KeysPerGroup));
+        QSettings::SettingsMap made;
+        for (int i = 0; i < ReadKeys; ++i)
+            made.insert(keys[std::size_t(i)], valueText(i / KeysPerGroup, i % KeysPerGroup));
+        return made;
+    }();
+    return map;
+}
+
+/** Costs QSettings what every format costs it that is not its own, and nothing besides. */
+struct ReadyStore : QtStore
+{
+    static QSettings::Format format()
+    {
+        static const QSettings::Format registered = QSettings::registerFormat(
+            QStringLiteral("ready"),
+            [](QIODevice &, QSettings::SettingsMap &map) {
+                map = readyMap();
+                return true;
+            },
+            [](QIODevice &device, const QSettings::SettingsMap &) { return device.write("ready") == 5; },
+            Qt::CaseSensitive);
+        return registered;
+    }
+    explicit ReadyStore(const QString &path)
+        : QtStore(path, format())
+    {}
+};
+
 #ifdef PYX_HAS_KCONFIG
 struct KStore
 {
@@ -172,6 +209,25 @@ void changeStore(benchmark::State &state)
     }
 }
 
+/** The bytes of our store, made before, to the same file in the same safe way. */
+void saveBytes(benchmark::State &state)
+{
+    const QTemporaryDir directory;
+    const QString path = directory.filePath(QStringLiteral("store"));
+    fill<XmlStore>(path, WrittenKeys);
+    QFile stored(path);
+    if (!stored.open(QIODevice::ReadOnly))
+        state.SkipWithError("there is no file");
+    const QByteArray bytes = stored.readAll();
+    for (auto _ : state) {
+        QSaveFile file(path);
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit()) {
+            state.SkipWithError("the file is not written");
+            break;
+        }
+    }
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -179,6 +235,10 @@ int main(int argc, char **argv)
     QCoreApplication application(argc, argv);
     benchmark::RegisterBenchmark("settings/read/PYXXml", readStore<XmlStore>)->Unit(benchmark::kMillisecond);
     benchmark::RegisterBenchmark("settings/read/Ini", readStore<IniStore>)->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark("settings/read/floor", readStore<ReadyStore>)->Unit(benchmark::kMillisecond);
+    benchmark::RegisterBenchmark("settings/sync/floor", saveBytes)
+        ->Unit(benchmark::kMillisecond)
+        ->UseRealTime();
     benchmark::RegisterBenchmark("settings/sync/PYXXml", changeStore<XmlStore>)
         ->Unit(benchmark::kMillisecond)
         ->UseRealTime();

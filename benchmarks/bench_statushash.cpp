@@ -8,8 +8,11 @@
 
 #include <QtCore/QJsonDocument>
 #include <QtCore/QJsonObject>
+#include <QtCore/QXmlStreamReader>
+#include <QtCore/QXmlStreamWriter>
 
 #include <benchmark/benchmark.h>
+#include <vector>
 
 using PYXRuntime::PYXStatusHash;
 
@@ -156,6 +159,53 @@ void restoreJson(benchmark::State &state)
     }
 }
 
+/** The elements of a document with nothing but their texts, which are there already. */
+void writeElements(benchmark::State &state)
+{
+    struct struElement
+    {
+        bool bStart;
+        QString name;
+        QXmlStreamAttributes attributes;
+        QString text;
+    };
+    std::vector<struElement> elements;
+    for (QXmlStreamReader xml(statusHash().toXml()); !xml.atEnd(); xml.readNext()) {
+        if (xml.isStartElement() || xml.isEndElement())
+            elements.push_back({xml.isStartElement(), xml.name().toString(), xml.attributes(), QString()});
+        else if (xml.isCharacters() && !xml.isWhitespace())
+            elements.back().text = xml.text().toString();
+    }
+    for (auto _ : state) {
+        QByteArray xml;
+        QXmlStreamWriter writer(&xml);
+        writer.setAutoFormatting(true);
+        for (const struElement &element : elements) {
+            if (!element.bStart) {
+                writer.writeEndElement();
+                continue;
+            }
+            writer.writeStartElement(element.name);
+            writer.writeAttributes(element.attributes);
+            if (!element.text.isEmpty())
+                writer.writeCharacters(element.text);
+        }
+        benchmark::DoNotOptimize(xml);
+    }
+}
+
+void readElements(benchmark::State &state)
+{
+    const QByteArray bytes = statusHash().toXml();
+    for (auto _ : state) {
+        QXmlStreamReader xml(bytes);
+        while (!xml.atEnd())
+            xml.readNext();
+        if (xml.hasError())
+            state.SkipWithError("not read");
+    }
+}
+
 } // namespace
 
 BENCHMARK(saveStatusHash)->Name("statushash/binary save/PYX");
@@ -164,6 +214,8 @@ BENCHMARK(restoreStatusHash)->Name("statushash/binary restore/PYX");
 BENCHMARK(restoreStream)->Name("statushash/binary restore/QDataStream");
 BENCHMARK(saveXml)->Name("statushash/xml save/PYX");
 BENCHMARK(saveJson)->Name("statushash/xml save/QJsonDocument");
+BENCHMARK(writeElements)->Name("statushash/xml save/floor");
 BENCHMARK(restoreXml)->Name("statushash/xml restore/PYX");
 BENCHMARK(restoreJson)->Name("statushash/xml restore/QJsonDocument");
+BENCHMARK(readElements)->Name("statushash/xml restore/floor");
 BENCHMARK_MAIN();

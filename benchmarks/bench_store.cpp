@@ -33,21 +33,31 @@ void fill(QSettings::Format format)
         settings.setValue(QString("Group%1/Key%2").arg(i / 10).arg(i % 10), QString("value %1").arg(i));
 }
 
+const QString WantedValue = QStringLiteral("value 37");
+
 void readWithPYX(benchmark::State &state)
 {
+    QString value;
     for (auto _ : state) {
         const PYXSettings settings(PYXSettings::eUserApplicationSettings);
-        benchmark::DoNotOptimize(settings.stringValue(wantedKey()));
+        value = settings.stringValue(wantedKey());
+        benchmark::DoNotOptimize(value);
     }
+    if (value != WantedValue)
+        state.SkipWithError("the value is missing");
 }
 
 void readWithQt(benchmark::State &state, QSettings::Format format)
 {
+    QString value;
     for (auto _ : state) {
         const QSettings settings(format, QSettings::UserScope, QCoreApplication::organizationName(),
                                  QCoreApplication::applicationName());
-        benchmark::DoNotOptimize(settings.value(wantedKey()).toString());
+        value = settings.value(wantedKey()).toString();
+        benchmark::DoNotOptimize(value);
     }
+    if (value != WantedValue)
+        state.SkipWithError("the value is missing");
 }
 
 } // namespace

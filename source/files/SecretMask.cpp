@@ -6,10 +6,13 @@
 
 #include <QtCore/QRegularExpression>
 
+#include <algorithm>
+
 namespace PYXRuntime {
 namespace {
 
 const QLatin1String Mask("***");
+const QLatin1String UrlMark("://");
 constexpr int LongestName = 64;
 
 bool isSeparator(QChar character)
@@ -24,13 +27,13 @@ bool isNameCharacter(QChar character)
 }
 
 /** Whether what stands before the separator names a secret. */
-bool followsSecretName(const QString &text, int separator)
+bool followsSecretName(QStringView text, int separator)
 {
     int end = separator;
-    while (end > 0 && !isNameCharacter(text.at(end - 1)) && !isSeparator(text.at(end - 1)))
+    while (end > 0 && !isNameCharacter(text[end - 1]) && !isSeparator(text[end - 1]))
         --end;
     int begin = end;
-    while (begin > 0 && end - begin < LongestName && isNameCharacter(text.at(begin - 1)))
+    while (begin > 0 && end - begin < LongestName && isNameCharacter(text[begin - 1]))
         --begin;
     return begin < end && SecretFinder::isSecretName(text.mid(begin, end - begin));
 }
@@ -45,15 +48,16 @@ QString withoutUrlPasswords(QString text)
 
 QString withoutSecrets(const QString &text)
 {
+    const QStringView view(text);
     bool bHasUrl = false;
-    for (int at = 0; at < text.size(); ++at) {
-        if (!isSeparator(text.at(at)))
-            continue;
-        if (followsSecretName(text, at)) {
+    for (auto found = view.begin(); (found = std::find_if(found, view.end(), isSeparator)) != view.end();
+         ++found) {
+        const auto at = static_cast<int>(found - view.begin());
+        if (followsSecretName(view, at)) {
             const QString kept = text.left(at + 1) + Mask;
             return bHasUrl ? withoutUrlPasswords(kept) : kept;
         }
-        bHasUrl = bHasUrl || text.midRef(at, 3) == QLatin1String("://");
+        bHasUrl = bHasUrl || (*found == QLatin1Char(':') && view.mid(at).startsWith(UrlMark));
     }
     return bHasUrl ? withoutUrlPasswords(text) : text;
 }

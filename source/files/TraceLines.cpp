@@ -48,7 +48,9 @@ QByteArray indented(QByteArray text)
 
 bool hasLineEnd(const QByteArray &text)
 {
-    return text.contains('\n') || text.contains('\r');
+    const auto size = static_cast<std::size_t>(text.size());
+    return std::memchr(text.constData(), '\n', size) != nullptr ||
+           std::memchr(text.constData(), '\r', size) != nullptr;
 }
 
 } // namespace

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "IconDirectories.h"
 
+#include "FileState.h"
+
 #include <QtCore/QDateTime>
 #include <QtCore/QDir>
 #include <QtCore/QDirIterator>
@@ -13,6 +15,7 @@ namespace {
 
 /** No file system's time stamps are coarser. */
 constexpr qint64 CoarsestTimeStampMs = 2000;
+constexpr qint64 NanosecondsPerMillisecond = 1'000'000;
 
 /** Resources have no time, and change only when more are registered. */
 constexpr qint64 TimeOfResources = 0;
@@ -29,7 +32,7 @@ QStringList IconDirectories::filesBeginningWith(const QDir &dir, const QString &
     const auto comesBefore = [](const QString &file, const QString &text) {
         return file.compare(text, Qt::CaseInsensitive) < 0;
     };
-    const QStringList files = _listing(dir).files;
+    const QStringList &files = _listing(dir).files;
     QStringList found;
     auto file = std::lower_bound(files.cbegin(), files.cend(), prefix, comesBefore);
     for (; file != files.cend() && file->startsWith(prefix, Qt::CaseInsensitive); ++file)
@@ -42,23 +45,41 @@ void IconDirectories::beginSearch()
 {
     m_bUsedKept = false;
     m_bFound = false;
+    m_lastPath.clear();
 }
 
-IconDirectories::struListing IconDirectories::_listing(const QDir &dir)
+void IconDirectories::clear()
+{
+    m_listings.clear();
+    m_lastPath.clear();
+}
+
+/** A search asks for the files of a directory and for its directories: it looks at its time only once. */
+const IconDirectories::struListing &IconDirectories::_listing(const QDir &dir)
 {
     const QString path = dir.path();
+    if (path != m_lastPath) {
+        m_lastListing = _listingNow(path);
+        m_lastPath = path;
+    }
+    return m_lastListing;
+}
+
+IconDirectories::struListing IconDirectories::_listingNow(const QString &path)
+{
     bool bMayBeKept = true; // a change from now on shows in the directory's time
     struListing listing;
-    listing.time = TimeOfResources;
+    listing.nanoseconds = TimeOfResources;
     if (!isResource(path)) {
-        const QDateTime changed = QFileInfo(path).lastModified();
-        if (!changed.isValid())
+        const Platform::struFileState state = Platform::fileState(path);
+        if (!state.isPresent())
             return {};
-        listing.time = changed.toMSecsSinceEpoch();
-        bMayBeKept = QDateTime::currentMSecsSinceEpoch() - listing.time > CoarsestTimeStampMs;
+        listing.nanoseconds = state.nanoseconds;
+        bMayBeKept = QDateTime::currentMSecsSinceEpoch() - state.nanoseconds / NanosecondsPerMillisecond >
+                     CoarsestTimeStampMs;
     }
     const auto kept = m_listings.constFind(path);
-    if (kept != m_listings.constEnd() && kept->time == listing.time) {
+    if (kept != m_listings.constEnd() && kept->nanoseconds == listing.nanoseconds) {
         m_bUsedKept = true;
         return *kept;
     }

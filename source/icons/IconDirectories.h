@@ -23,19 +23,22 @@ public:
     void beginSearch();
     /** Whether nothing was found since then, some of it in kept listings. */
     bool mayHaveMissedFiles() const { return m_bUsedKept && !m_bFound; }
-    void clear() { m_listings.clear(); }
+    void clear();
 
 private:
     struct struListing
     {
         QStringList files; ///< sorted without regard to case
         QStringList directories;
-        qint64 time = 0; ///< when the directory was changed
+        qint64 nanoseconds = 0; ///< when the directory was changed
     };
 
-    struListing _listing(const QDir &dir);
+    const struListing &_listing(const QDir &dir);
+    struListing _listingNow(const QString &path);
 
     QHash<QString, struListing> m_listings;
+    QString m_lastPath; ///< in this search
+    struListing m_lastListing;
     bool m_bUsedKept = false;
     bool m_bFound = false;
 };

@@ -25,7 +25,7 @@ struct struFileState
     }
 };
 
-/** Of the file that has this name now; of the one that a symbolic link leads to. */
+/** Of the file or directory that has this name now; of the one that a symbolic link leads to. */
 struFileState fileState(const QString &path);
 
 /** Of an open file. */

@@ -38,7 +38,7 @@ struFileState fileState(const QString &path)
     // No access is asked for, so whoever has it open does not stand in the way.
     const HANDLE file = CreateFileW(reinterpret_cast<const wchar_t *>(native.utf16()), 0,
                                     FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
-                                    OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+                                    OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr); // directories too
     const struFileState state = stateOf(file);
     if (file != INVALID_HANDLE_VALUE)
         CloseHandle(file);

@@ -9,27 +9,39 @@
 #include <QtCore/QVarLengthArray>
 
 #include <algorithm>
-#include <cstring>
+#include <array>
+#include <string_view>
 
 namespace PYXRuntime::SecretFinder {
 namespace {
 
-constexpr const char *Words[] = {"password", "passwort", "passwd", "passphrase", "passcode",  "pwd",
-                                 "secret",   "token",    "apikey", "privatekey", "credential"};
+constexpr std::string_view Words[] = {"password", "passwort", "passwd", "passphrase", "passcode",  "pwd",
+                                      "secret",   "token",    "apikey", "privatekey", "credential"};
+
+/** By the code of a letter: whether a word begins with it. */
+constexpr std::array<bool, 0x80> firstLetters()
+{
+    std::array<bool, 0x80> letters = {};
+    for (const std::string_view word : Words)
+        letters[static_cast<std::size_t>(word.front())] = true;
+    return letters;
+}
+
+constexpr std::array<bool, 0x80> FirstLetters = firstLetters();
 
 bool hasSecretWord(const QString &text)
 {
-    return std::any_of(std::begin(Words), std::end(Words), [&text](const char *word) {
-        return text.contains(QLatin1String(word), Qt::CaseInsensitive);
+    return std::any_of(std::begin(Words), std::end(Words), [&text](std::string_view word) {
+        return text.contains(QLatin1String(word.data(), static_cast<int>(word.size())), Qt::CaseInsensitive);
     });
 }
 
-bool beginsWithSecretWord(const char *letters, int size)
+/** @param letters  in ASCII, small */
+bool beginsWithSecretWord(std::string_view letters)
 {
-    return std::any_of(std::begin(Words), std::end(Words), [letters, size](const char *word) {
-        return *word == *letters && std::strlen(word) <= std::size_t(size) &&
-               std::memcmp(letters, word, std::strlen(word)) == 0;
-    });
+    return FirstLetters[static_cast<std::size_t>(letters.front())] &&
+           std::any_of(std::begin(Words), std::end(Words),
+                       [letters](std::string_view word) { return letters.substr(0, word.size()) == word; });
 }
 
 /** User and password in front of the host. */
@@ -83,20 +95,21 @@ bool hashHoldsSecret(const PYXStatusHash &hash)
 
 // Names of settings and of what is traced are Latin mostly: for these neither a pattern nor folding is
 // needed.
-bool isSecretName(const QString &key)
+bool isSecretName(QStringView key)
 {
     static const QRegularExpression separators(QStringLiteral("[-_. ]"));
     QVarLengthArray<char, 64> letters;
     for (const QChar character : key) {
         const ushort code = character.unicode();
         if (code >= 0x80)
-            return hasSecretWord(QString(key).remove(separators));
+            return hasSecretWord(key.toString().remove(separators));
         if (code != '-' && code != '_' && code != '.' && code != ' ')
             letters.append(code >= 'A' && code <= 'Z' ? static_cast<char>(code + ('a' - 'A'))
                                                       : static_cast<char>(code));
     }
-    for (int at = 0; at < letters.size(); ++at) {
-        if (beginsWithSecretWord(letters.constData() + at, letters.size() - at))
+    std::string_view rest(letters.constData(), static_cast<std::size_t>(letters.size()));
+    for (; !rest.empty(); rest.remove_prefix(1)) {
+        if (beginsWithSecretWord(rest))
             return true;
     }
     return false;

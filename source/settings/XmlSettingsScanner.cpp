@@ -56,7 +56,18 @@ constexpr CharacterTable writtenCharacters()
 
 constexpr CharacterTable Characters = writtenCharacters();
 
+/** Moves a value into the map: a QVariant that is copied counts its holders twice, for nothing. */
+void append(QSettings::SettingsMap &map, const QString &key, QVariant &&value)
+{
+    map.insert(map.constEnd(), key, QVariant())->swap(value);
+}
+
 } // namespace
+
+bool XmlSettingsScanner::struText::isLiteral() const
+{
+    return bPlain && !bList && (text.isEmpty() || text.front() != QLatin1Char('@'));
+}
 
 XmlSettingsScanner::XmlSettingsScanner(const QByteArray &file)
     : m_at(file.constData())
@@ -98,15 +109,15 @@ void XmlSettingsScanner::_skipBlanks()
 
 XmlSettingsScanner::struText XmlSettingsScanner::_takeText()
 {
-    const char *const start = m_at;
+    const char *at = m_at;
     uint seen = 0;
-    for (; m_at != m_end; ++m_at) {
-        const quint8 character = Characters[static_cast<unsigned char>(*m_at)];
+    for (; at != m_end; ++at) {
+        const quint8 character = Characters[static_cast<unsigned char>(*at)];
         if (character == ekOther)
             break;
         seen |= character;
     }
-    return {QLatin1String(start, m_at), (seen & ekReference) == 0, (seen & ekComma) != 0};
+    return {QLatin1String(std::exchange(m_at, at), at), (seen & ekReference) == 0, (seen & ekComma) != 0};
 }
 
 bool XmlSettingsScanner::_takeName(struText &name)
@@ -137,16 +148,15 @@ QString XmlSettingsScanner::_key(const struText &segment) const
 void XmlSettingsScanner::_fill(QSettings::SettingsMap &map) const
 {
     for (const struFound &found : m_found) {
-        const QString written(found.text.text);
-        const bool bLiteral = found.text.bPlain && !found.text.bList && !written.startsWith(QLatin1Char('@'));
+        QString written(found.text.text);
         if (found.bSize) {
-            map.insert(map.constEnd(), found.key, written.toInt());
-        } else if (bLiteral) {
-            map.insert(map.constEnd(), found.key, written);
+            append(map, found.key, written.toInt());
+        } else if (found.text.isLiteral()) {
+            append(map, found.key, std::move(written));
         } else {
-            const QVariant value = XmlValueCodec::decoded(written);
+            QVariant value = XmlValueCodec::decoded(written);
             if (value.isValid())
-                map.insert(map.constEnd(), found.key, value);
+                append(map, found.key, std::move(value));
         }
     }
 }

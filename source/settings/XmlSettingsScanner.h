@@ -27,6 +27,8 @@ private:
         QLatin1String text;
         bool bPlain = false; ///< nothing to unescape
         bool bList = false;
+
+        bool isLiteral() const; ///< as a value: stands for itself
     };
 
     /** A value that is only decoded at the end: keys that lie together in memory are compared faster. */
