@@ -7,7 +7,8 @@
 
 #include <malloc.h>
 #ifdef __SANITIZE_ADDRESS__
-#include <sanitizer/allocator_interface.h>
+// GCC does not install the header.
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 #endif
 
 /** What the system says of this process (Linux). */

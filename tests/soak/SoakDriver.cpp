@@ -43,7 +43,6 @@ using BandMonitor::struAnnouncement;
 
 namespace {
 
-constexpr double BandSeconds = 12;
 constexpr int BlocksPerWrittenOne = 10;
 constexpr std::size_t MostStations = 8;
 constexpr std::size_t MostRegistered = 20;
@@ -69,11 +68,12 @@ void fillFileList(const QString &directory)
 
 } // namespace
 
-SoakDriver::SoakDriver(MainWindow &window, PYXAppInternalsSimple &internals, const QString &directory)
+SoakDriver::SoakDriver(MainWindow &window, PYXAppInternalsSimple &internals,
+                       std::shared_ptr<const LoopedBand::Samples> band, const QString &directory)
     : m_window(window)
     , m_internals(internals)
     , m_directory(directory)
-    , m_band(LoopedBand::record(BandSeconds))
+    , m_band(std::move(band))
     , m_tracer(traceFiles(directory))
 {
     m_sampleFiles.setBaseDirectory(directory);

@@ -35,7 +35,7 @@ class SoakDriver final : public QObject, public PYXRuntime::IBroadcastParser
 public:
     /** @param directory for files; exists */
     SoakDriver(BandMonitor::MainWindow &window, PYXRuntime::PYXAppInternalsSimple &internals,
-               const QString &directory);
+               std::shared_ptr<const LoopedBand::Samples> band, const QString &directory);
     ~SoakDriver() override;
 
     /** @param speed seconds of the band per second */

@@ -42,7 +42,9 @@ struct struOptions
     double speed = 50;
     double leastSpeed = 0;
     double warmUp = 3; ///< in minutes
-    QString samples;   ///< path
+    double loop = 12;  ///< of the band, in seconds
+    bool bJudging = true;
+    QString samples; ///< path
 };
 
 struOptions optionsOf(const QCoreApplication &application)
@@ -58,9 +60,13 @@ struOptions optionsOf(const QCoreApplication &application)
                                    QStringLiteral("0"));
     const QCommandLineOption samples(QStringLiteral("samples"), QStringLiteral("Where all figures go."),
                                      QStringLiteral("file"));
+    const QCommandLineOption loop(QStringLiteral("loop"), QStringLiteral("How much of the band is repeated."),
+                                  QStringLiteral("seconds"), QStringLiteral("12"));
+    const QCommandLineOption noVerdict(QStringLiteral("no-verdict"),
+                                       QStringLiteral("Only work, for somebody else to watch."));
     QCommandLineParser parser;
     parser.addHelpOption();
-    parser.addOptions({minutes, warmUp, speed, least, samples});
+    parser.addOptions({minutes, warmUp, speed, least, loop, noVerdict, samples});
     parser.process(application);
     return {parser.value(minutes).toDouble(), parser.value(speed).toDouble(), parser.value(least).toDouble(),
             parser.value(warmUp).toDouble(), parser.value(samples)};
@@ -125,7 +131,10 @@ bool print(const struOptions &options, const SoakReport &report, const SoakDrive
     }
     if (played / seconds < options.leastSpeed)
         failures += QStringLiteral("speed");
-    out << "Meanwhile: " << done.join(QStringLiteral(", ")) << ".\n\n" << report.table();
+    out << "Meanwhile: " << done.join(QStringLiteral(", ")) << ".\n";
+    if (!options.bJudging)
+        return true;
+    out << '\n' << report.table();
     if (!failures.isEmpty())
         out << "\n**Failed:** " << failures.join(QStringLiteral(", ")) << ".\n";
     return failures.isEmpty();
@@ -150,7 +159,7 @@ int soak(const struOptions &options, const QString &directory)
     window.followModes(&internals);
     window.restoreSettings();
     window.joinNetworks();
-    SoakDriver driver(window, internals, directory);
+    SoakDriver driver(window, internals, LoopedBand::record(options.loop), directory);
     driver.start(options.speed);
     window.show();
 
