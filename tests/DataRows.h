@@ -25,3 +25,22 @@ void addRows(std::initializer_list<const char *> columns,
         std::apply(add, row);
     }
 }
+
+/**
+ * Calls the check with the values of one row after the other. Where it fails, the name of the row is told, and
+ * the rows behind it are left out.
+ */
+template <typename... Columns, typename Check>
+void forRows(const std::vector<std::tuple<const char *, Columns...>> &rows, Check check)
+{
+    const auto checkRow = [&check](const char *name, const Columns &...values) {
+        check(values...);
+        if (QTest::currentTestFailed())
+            qWarning("in the row \"%s\"", name);
+        return !QTest::currentTestFailed();
+    };
+    for (const auto &row : rows) {
+        if (!std::apply(checkRow, row))
+            return;
+    }
+}

@@ -1,13 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The PYXRuntime developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "ChildProcess.h"
+#include "DataRows.h"
+#include "FileContents.h"
 #include "NewIntegrationVersionChecker.h"
 #include "PYXRuntime.h"
 #include "PYXSettings.h"
 #include "SettingsHome.h"
 
-#include <QtCore/QTimer>
-#include <QtCore/QUrl>
 #include <QtGui/QDesktopServices>
 #include <QtTest/QtTest>
 #include <QtWidgets/QMessageBox>
@@ -66,13 +66,11 @@ public Q_SLOTS:
     void openUrl(const QUrl &url) { m_opened += url; }
 private slots:
     void init();
-    void runsInTheMakersDomainOnly_data();
     void runsInTheMakersDomainOnly();
     void findsTheNewest_data();
     void findsTheNewest();
     void announces_data();
     void announces();
-    void messageAndItsButtons_data();
     void messageAndItsButtons();
     void queued();
 
@@ -95,39 +93,30 @@ void tst_NewIntegrationVersionChecker::init()
     QCoreApplication::setApplicationVersion("4.9.9");
 }
 
-void tst_NewIntegrationVersionChecker::runsInTheMakersDomainOnly_data()
-{
-    QTest::addColumn<QByteArray>("domain");
-    QTest::addColumn<QByteArray>("dnsDomain");
-    QTest::addColumn<int>("working"); // operations
-    QTest::newRow("inside") << QByteArray(USERDOMAIN) << QByteArray(USERDNSDOMAIN) << 3;
-    QTest::newRow("another domain") << QByteArray("ELSEWHERE") << QByteArray(USERDNSDOMAIN) << 0;
-    QTest::newRow("another DNS domain") << QByteArray(USERDOMAIN) << QByteArray("home.example") << 0;
-    QTest::newRow("none") << QByteArray() << QByteArray() << 0;
-}
-
 void tst_NewIntegrationVersionChecker::runsInTheMakersDomainOnly()
 {
-    QFETCH(QByteArray, domain);
-    QFETCH(QByteArray, dnsDomain);
+    // The domain, the DNS domain, how many operations work.
+    const Rows<QByteArray, QByteArray, int> rows = {{"inside", USERDOMAIN, USERDNSDOMAIN, 3},
+                                                    {"another domain", "ELSEWHERE", USERDNSDOMAIN, 0},
+                                                    {"another DNS domain", USERDOMAIN, "home.example", 0},
+                                                    {"none", "", "", 0}};
     makeBuilds({"Build 5.0.0"});
-    // The program itself has its answer already.
-    qputenv("USERDOMAIN", domain);
-    qputenv("USERDNSDOMAIN", dnsDomain);
-    QVERIFY(Checker::shouldRun());
-    const ChildResult child = runOwnProbe(folder());
-    QTEST(child.exitCode, "working");
+    QVERIFY(Checker::shouldRun()); // so that this program has its answer already
+    forRows(rows, [this](const QByteArray &domain, const QByteArray &dnsDomain, int working) {
+        qputenv("USERDOMAIN", domain);
+        qputenv("USERDNSDOMAIN", dnsDomain);
+        QCOMPARE(runOwnProbe(folder()).exitCode, working);
+    });
 }
 
 void tst_NewIntegrationVersionChecker::findsTheNewest_data()
 {
-    QTest::addColumn<QStringList>("names");
-    QTest::addColumn<QString>("newest");
-    QTest::newRow("by number") << QStringList{"Build 4.9_9", "Build 4.10_1", "Build 4.10_0.7"}
-                               << "Build 4.10_1";
-    QTest::newRow("by prefix") << QStringList{"Build 1.0.0", "Trial Build 9.0.0"} << "Build 1.0.0";
-    QTest::newRow("without version") << QStringList{"Build 12.3", "Build latest"} << "";
-    QTest::newRow("none") << QStringList{""} << "";
+    const Rows<QStringList, QString> rows = {
+        {"by number", {"Build 4.9_9", "Build 4.10_1", "Build 4.10_0.7"}, "Build 4.10_1"},
+        {"by prefix", {"Build 1.0.0", "Trial Build 9.0.0"}, "Build 1.0.0"},
+        {"without version", {"Build 12.3", "Build latest"}, ""},
+        {"none", {""}, ""}};
+    addRows({"names", "newest"}, rows);
 }
 
 void tst_NewIntegrationVersionChecker::findsTheNewest()
@@ -137,8 +126,7 @@ void tst_NewIntegrationVersionChecker::findsTheNewest()
     PYXVersion version(99, 0, 0, 0);
     QVERIFY(!Checker::getNewestBuildVersion(folder(), "Build", version));
     makeBuilds(names);
-    QFile file(folder() + "/Build 77.0.0");
-    QVERIFY(file.open(QIODevice::WriteOnly));
+    put(folder() + "/Build 77.0.0", {}); // no directory
     QCOMPARE(Checker::getNewestBuildVersion(folder(), "Build", version), !newest.isEmpty());
     QCOMPARE(version.toFullString(), PYXVersion(newest).toFullString());
     QCOMPARE(Checker::lastIntegrationDirPath(), folder());
@@ -148,26 +136,17 @@ void tst_NewIntegrationVersionChecker::findsTheNewest()
 
 void tst_NewIntegrationVersionChecker::announces_data()
 {
-    QTest::addColumn<QString>("current");
-    QTest::addColumn<QString>("build");
-    QTest::addColumn<QStringList>("ignored");
-    QTest::addColumn<int>("shown"); // -1: cannot be checked
-    QTest::newRow("newer") << "4.9.9"
-                           << "B4.10.0" << QStringList() << 1;
-    QTest::newRow("same") << "4.9.9"
-                          << "B4.9.9 (Debug)" << QStringList() << 0;
-    QTest::newRow("older") << "4.10.0"
-                           << "B4.9.9" << QStringList() << 0;
-    QTest::newRow("of a developer") << "0.9.9"
-                                    << "B4.9.9" << QStringList() << 0;
-    QTest::newRow("ignored") << "4.9.9"
-                             << "B4.10.0" << QStringList{"1.0.0", "04.10_00.00"} << 0;
-    QTest::newRow("newer than the ignored one") << "4.9.9"
-                                                << "B4.10.0.1" << QStringList{"04.10_00.00"} << 1;
-    QTest::newRow("no build") << "4.9.9"
-                              << "" << QStringList() << -1;
-    QTest::newRow("no current version") << "4.9"
-                                        << "B4.10.0" << QStringList() << -1;
+    // The running version, the build, what is ignored, how many are shown: -1 if it cannot be checked.
+    const Rows<QString, QString, QStringList, int> rows = {
+        {"newer", "4.9.9", "B4.10.0", {}, 1},
+        {"same", "4.9.9", "B4.9.9 (Debug)", {}, 0},
+        {"older", "4.10.0", "B4.9.9", {}, 0},
+        {"of a developer", "0.9.9", "B4.9.9", {}, 0},
+        {"ignored", "4.9.9", "B4.10.0", {"1.0.0", "04.10_00.00"}, 0},
+        {"newer than the ignored one", "4.9.9", "B4.10.0.1", {"04.10_00.00"}, 1},
+        {"no build", "4.9.9", "", {}, -1},
+        {"no current version", "4.9", "B4.10.0", {}, -1}};
+    addRows({"current", "build", "ignored", "shown"}, rows);
 }
 
 void tst_NewIntegrationVersionChecker::announces()
@@ -188,42 +167,36 @@ void tst_NewIntegrationVersionChecker::announces()
     QCOMPARE(ignoredVersions(), ignored);
 }
 
-void tst_NewIntegrationVersionChecker::messageAndItsButtons_data()
-{
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<QStringList>("ignored");
-    QTest::addColumn<int>("opened");
-    QTest::newRow("OK") << "OK" << QStringList{"01.00_00.00"} << 0;
-    QTest::newRow("escape") << "" << QStringList{"01.00_00.00"} << 0;
-    QTest::newRow("open") << "Open Folder" << QStringList{"01.00_00.00"} << 1;
-    QTest::newRow("ignore") << "Ignore Version" << QStringList{"01.00_00.00", "04.10_00.02"} << 0;
-}
-
 void tst_NewIntegrationVersionChecker::messageAndItsButtons()
 {
-    QFETCH(QString, button);
-    QFETCH(int, opened);
+    const Rows<QString, QStringList, int> rows = {
+        {"OK", "OK", {"01.00_00.00"}, 0},
+        {"escape", "", {"01.00_00.00"}, 0},
+        {"ignore", "Ignore Version", {"01.00_00.00", "04.10_00.02"}, 0},
+        {"open", "Open Folder", {"01.00_00.00"}, 1}};
     makeBuilds({"Build 4.10_0.2 & more"});
     PYXVersion newest;
     QVERIFY(Checker::getNewestBuildVersion(QDir(folder()), "", newest));
-    PYXSettings(PYXSettings::eUserApplicationSettings)
-        .setValue("NewIntegrationVersionChecker/IgnoreVersions", QStringList{"01.00_00.00"});
     QDesktopServices::setUrlHandler("file", this, "openUrl");
-    const Answerer answerer(button);
-    Checker::announceNewerBuildVersion(PYXVersion(4, 9, 9, 0), newest);
+    forRows(rows, [&](const QString &button, const QStringList &ignored, int opened) {
+        PYXSettings(PYXSettings::eUserApplicationSettings)
+            .setValue("NewIntegrationVersionChecker/IgnoreVersions", QStringList{"01.00_00.00"});
+        const Answerer answerer(button);
+        Checker::announceNewerBuildVersion(PYXVersion(4, 9, 9, 0), newest);
+        QCOMPARE(answerer.title, QString("Application - Newer Version Found"));
+        QCOMPARE(answerer.shown,
+                 QStringList{
+                     "<HTML><TABLE><TR><TH>Current version</TH><TD&nbsp;</TD><TD>04.09_09.00</TD></TR><TR>"
+                     "<TH>Latest version</TH><TD&nbsp;</TD><TD>04.10_00.02</TD></TR></TABLE><P>Location: " +
+                     folder() + "/Build 4.10_0.2 &amp; more</HTML>"});
+        QCOMPARE(answerer.buttons, (QStringList{QString("OK %1").arg(QMessageBox::AcceptRole),
+                                                QString("Open Folder %1").arg(QMessageBox::ActionRole),
+                                                QString("Ignore Version %1").arg(QMessageBox::ActionRole)}));
+        QCOMPARE(ignoredVersions(), ignored);
+        QCOMPARE(m_opened.size(), opened);
+    });
     QDesktopServices::unsetUrlHandler("file");
-    QCOMPARE(answerer.title, QString("Application - Newer Version Found"));
-    QCOMPARE(
-        answerer.shown,
-        QStringList{"<HTML><TABLE><TR><TH>Current version</TH><TD&nbsp;</TD><TD>04.09_09.00</TD></TR><TR>"
-                    "<TH>Latest version</TH><TD&nbsp;</TD><TD>04.10_00.02</TD></TR></TABLE><P>Location: " +
-                    folder() + "/Build 4.10_0.2 &amp; more</HTML>"});
-    QCOMPARE(answerer.buttons, (QStringList{QString("OK %1").arg(QMessageBox::AcceptRole),
-                                            QString("Open Folder %1").arg(QMessageBox::ActionRole),
-                                            QString("Ignore Version %1").arg(QMessageBox::ActionRole)}));
-    QTEST(ignoredVersions(), "ignored");
-    QCOMPARE(m_opened, opened == 0 ? QList<QUrl>()
-                                   : QList<QUrl>{QUrl::fromLocalFile(Checker::lastNewestBuildDirPath())});
+    QCOMPARE(m_opened.value(0), QUrl::fromLocalFile(Checker::lastNewestBuildDirPath()));
 }
 
 void tst_NewIntegrationVersionChecker::queued()

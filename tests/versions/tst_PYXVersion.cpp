@@ -12,7 +12,6 @@ class tst_PYXVersion : public QObject
 private slots:
     // Where there is a compiler for expressions, it hides what they cost elsewhere.
     void initTestCase() { qputenv("QT_ENABLE_REGEXP_JIT", "0"); }
-    void readsTexts_data();
     void readsTexts();
     void badTextKeepsTheDebugFlag();
     void writesTexts();
@@ -21,38 +20,31 @@ private slots:
     void longTextsAreReadInOneGo();
 };
 
-void tst_PYXVersion::readsTexts_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("version"); // empty: not valid
-    QTest::addColumn<bool>("debug");
-    const auto row = [](const char *text, const char *version, bool bDebug = false) {
-        QTest::newRow(text) << text << version << bDebug;
-    };
-    row("4.2_7", "04.02_07.00");
-    row("4.2.7", "04.02_07.00");
-    row("12.3_4", "12.03_04.00");
-    row("v4.2.7.1 (Debug)", "04.02_07.01", true);
-    row("(Debug) Build 4.2_7.1", "04.02_07.01", true);
-    row("4.2.7 (debug)", "04.02_07.00");
-    row("4.2_7_1", "04.02_07.00"); // only a point comes before the private part
-    row("4.2.7.1.9", "04.02_07.01");
-    row("1.2 then 3.4.5", "03.04_05.00");
-    row("70000.1.2", "00.01_02.00");
-    row("65535.65536.0.99999999999999999999", "65535.00_00.00");
-    row("12.3", "");
-    row("12_3_4", "");
-    row("4.2.x (Debug)", "");
-    row("", "");
-}
-
 void tst_PYXVersion::readsTexts()
 {
-    QFETCH(QString, text);
-    const PYXVersion version = PYXVersion::fromString(text);
-    QTEST(version.isValid() ? version.toFullString() : QString(""), "version");
-    QTEST(version.maybeDebug(), "debug");
-    QVERIFY(version.isValid() || quint64(version) == 0);
+    // The text, its version (empty: not valid), whether it tells of a debug build.
+    const std::tuple<const char *, const char *, bool> rows[] = {
+        {"4.2_7", "04.02_07.00", false},
+        {"4.2.7", "04.02_07.00", false},
+        {"12.3_4", "12.03_04.00", false},
+        {"v4.2.7.1 (Debug)", "04.02_07.01", true},
+        {"(Debug) Build 4.2_7.1", "04.02_07.01", true},
+        {"4.2.7 (debug)", "04.02_07.00", false},
+        {"4.2_7_1", "04.02_07.00", false}, // only a point comes before the private part
+        {"4.2.7.1.9", "04.02_07.01", false},
+        {"1.2 then 3.4.5", "03.04_05.00", false},
+        {"70000.1.2", "00.01_02.00", false},
+        {"65535.65536.0.99999999999999999999", "65535.00_00.00", false},
+        {"12.3", "", false},
+        {"12_3_4", "", false},
+        {"4.2.x (Debug)", "", false},
+        {"", "", false}};
+    for (const auto &[text, expected, bDebug] : rows) {
+        const PYXVersion version = PYXVersion::fromString(text);
+        QCOMPARE(version.isValid() ? version.toFullString() : QString(""), QString(expected));
+        QVERIFY2(version.maybeDebug() == bDebug, text);
+        QVERIFY2(version.isValid() || quint64(version) == 0, text);
+    }
 }
 
 void tst_PYXVersion::badTextKeepsTheDebugFlag()
@@ -71,12 +63,14 @@ void tst_PYXVersion::badTextKeepsTheDebugFlag()
 void tst_PYXVersion::writesTexts()
 {
     const PYXVersion version(4, 2, 7, 1);
-    QCOMPARE((QStringList{version.toString(), version.toFullString(), version.toDotString(),
-                          version.toFullDotString()}),
-             (QStringList{"04.02_07", "04.02_07.01", "04.02.07", "04.02.07.01"}));
-    QCOMPARE((QByteArrayList{version.toByteArray(), version.toFullByteArray(), version.toDotByteArray(),
-                             version.toFullDotByteArray()}),
-             (QByteArrayList{"04.02_07", "04.02_07.01", "04.02.07", "04.02.07.01"}));
+    const std::pair<QString, QByteArray> texts[] = {
+        {version.toString(), version.toByteArray()},
+        {version.toFullString(), version.toFullByteArray()},
+        {version.toDotString(), version.toDotByteArray()},
+        {version.toFullDotString(), version.toFullDotByteArray()}};
+    const char *const expected[] = {"04.02_07", "04.02_07.01", "04.02.07", "04.02.07.01"};
+    for (int i = 0; i < 4; ++i)
+        QVERIFY2(texts[i].first == expected[i] && texts[i].second == expected[i], expected[i]);
     QCOMPARE(PYXVersion(2026, 100, 0, 65535).toFullString(), QString("2026.100_00.65535"));
 }
 

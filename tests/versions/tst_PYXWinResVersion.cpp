@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The PYXRuntime developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
+#include "DataRows.h"
+#include "FileContents.h"
 #include "PeBytes.h"
 #include "PYXFixedFileInfo.h"
 #include "PYXWinResVersion.h"
 #include "RecordingTracer.h"
 
-#include <QtCore/QFile>
-#include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 
 using namespace PYXRuntime;
@@ -34,11 +34,8 @@ class tst_PYXWinResVersion : public QObject
 private slots:
     void readsBothKinds_data();
     void readsBothKinds();
-    void picksOneLanguage_data();
     void picksOneLanguage();
-    void damage_data();
     void damage();
-    void everyTruncation_data();
     void everyTruncation();
     void reportsMissingParts();
     void runningProgram();
@@ -46,8 +43,8 @@ private slots:
 private:
     QString written(const QByteArray &bytes)
     {
-        QFile file(m_directory.filePath("sample.exe"));
-        return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() ? file.fileName() : "";
+        put(m_directory.filePath("sample.exe"), bytes);
+        return m_directory.filePath("sample.exe");
     }
 
     QTemporaryDir m_directory;
@@ -55,9 +52,7 @@ private:
 
 void tst_PYXWinResVersion::readsBothKinds_data()
 {
-    QTest::addColumn<bool>("plus");
-    QTest::newRow("PE32") << false;
-    QTest::newRow("PE32+") << true;
+    addRows({"plus"}, Rows<bool>{{"PE32", false}, {"PE32+", true}});
 }
 
 void tst_PYXWinResVersion::readsBothKinds()
@@ -94,92 +89,63 @@ void tst_PYXWinResVersion::readsBothKinds()
     QVERIFY(bOk);
 }
 
-void tst_PYXWinResVersion::picksOneLanguage_data()
-{
-    QTest::addColumn<QVector<int>>("languages");
-    QTest::addColumn<int>("picked");
-    QTest::newRow("neutral") << QVector<int>{0x0000, 0x0409, 0x0452} << 0x0000;
-    QTest::newRow("American English") << QVector<int>{0x0401, 0x0409, 0x0452} << 0x0409;
-    QTest::newRow("the first") << QVector<int>{0x0452, 0x0481} << 0x0452;
-}
-
 void tst_PYXWinResVersion::picksOneLanguage()
 {
-    QFETCH(QVector<int>, languages);
-    QVector<QPair<int, QByteArray>> versions;
-    for (const int language : languages)
-        versions.append({language, sampleBlock(QString("1.0.%1").arg(language))});
-    const PYXWinResVersion file(written(PeBytes::file(true, resources(versions))));
-    QTEST(int(file.getPYXVersion(PYXWinResVersion::ekProductVersion).build()), "picked");
-}
-
-void tst_PYXWinResVersion::damage_data()
-{
-    QTest::addColumn<int>("offset"); // in a PE32+ file
-    QTest::addColumn<QByteArray>("bytes");
-    const auto row = [](const char *name, int offset, const QVector<quint32> &numbers) {
-        QTest::newRow(name) << offset << numbers32(numbers);
-    };
-    const int optional = 64 + 24;
-    row("no DOS signature", 0, {0x5A4E});
-    row("header far away", 60, {0xFFFFFFF0});
-    row("no PE signature", 64, {0x4550 + 1});
-    row("unknown kind", optional, {0x30B});
-    row("no data directories", optional + 108, {2});
-    row("resources nowhere", optional + 128, {0xFFFFFFFF});
-    row("65535 sections", 64 + 4, {0xFFFF8664});
-    row("section outside of the file", optional + 240 + 20, {0xFFFFFFFF});
-    row("data across the end of the section", optional + 240 + 16, {120});
-    const int root = SectionOffset;
-    row("65535 entries", root + 12, {0xFFFFFFFF});
-    row("no version", root + 24, {15});
-    row("data where a directory is due", root + 28, {32});
-    row("directory that is its own child", root + 28, {Child});
-    row("directory where data is due", root + 56 + 20, {Child | 56});
-    row("data of 4 GB", root + 84, {0xFFFFFFFF});
-    row("data outside", root + 80, {0xFFFFFFF0});
-    row("empty data", root + 84, {0});
-    row("empty block", root + 96, {0});
+    // The neutral one, else American English, else the first.
+    const std::pair<QVector<int>, int> rows[] = {
+        {{0x0000, 0x0409, 0x0452}, 0x0000}, {{0x0401, 0x0409, 0x0452}, 0x0409}, {{0x0452, 0x0481}, 0x0452}};
+    for (const auto &[languages, picked] : rows) {
+        QVector<QPair<int, QByteArray>> versions;
+        for (const int language : languages)
+            versions.append({language, sampleBlock(QString("1.0.%1").arg(language))});
+        const PYXWinResVersion file(written(PeBytes::file(true, resources(versions))));
+        QCOMPARE(int(file.getPYXVersion(PYXWinResVersion::ekProductVersion).build()), picked);
+    }
 }
 
 void tst_PYXWinResVersion::damage()
 {
-    QFETCH(int, offset);
-    QFETCH(QByteArray, bytes);
-    QByteArray image = PeBytes::file(true, resources({{0x0409, sampleBlock()}}));
-    QVERIFY(PYXWinResVersion(written(image)).didLoad());
-    image.replace(offset, bytes.size(), bytes);
-    const PYXWinResVersion file(written(image));
-    QCOMPARE(tracesOf([&file] { QVERIFY(!file.didLoad()); }), QStringList());
-    PYXVersion version;
-    QVERIFY(file.fixedFileInfo() == nullptr && file.locales().isEmpty());
-    QVERIFY(!file.getFixedFileInfoVersion(PYXWinResVersion::ekFileVersion, version));
-    QVERIFY(!file.getVersion(PYXWinResVersion::ekFileVersion, version));
-}
-
-void tst_PYXWinResVersion::everyTruncation_data()
-{
-    QTest::addColumn<QString>("foreign");
-    QTest::newRow("our own") << QString();
-    QTest::newRow("foreign") << "/usr/lib/x86_64-linux-gnu/wine/x86_64-windows/stdole32.tlb";
+    constexpr int Optional = 64 + 24;
+    constexpr int Root = SectionOffset;
+    // Offset in a PE32+ file, and what is put there.
+    const Rows<int, quint32> rows = {{"no DOS signature", 0, 0x5A4E},
+                                     {"header far away", 60, 0xFFFFFFF0},
+                                     {"no PE signature", 64, 0x4550 + 1},
+                                     {"unknown kind", Optional, 0x30B},
+                                     {"no data directories", Optional + 108, 2},
+                                     {"resources nowhere", Optional + 128, 0xFFFFFFFF},
+                                     {"65535 sections", 64 + 4, 0xFFFF8664},
+                                     {"section outside of the file", Optional + 240 + 20, 0xFFFFFFFF},
+                                     {"data across the end of the section", Optional + 240 + 16, 120},
+                                     {"65535 entries", Root + 12, 0xFFFFFFFF},
+                                     {"no version", Root + 24, 15},
+                                     {"data where a directory is due", Root + 28, 32},
+                                     {"directory that is its own child", Root + 28, Child},
+                                     {"directory where data is due", Root + 56 + 20, Child | 56},
+                                     {"data of 4 GB", Root + 84, 0xFFFFFFFF},
+                                     {"data outside", Root + 80, 0xFFFFFFF0},
+                                     {"empty data", Root + 84, 0},
+                                     {"empty block", Root + 96, 0}};
+    const QByteArray sound = PeBytes::file(true, resources({{0x0409, sampleBlock()}}));
+    QVERIFY(PYXWinResVersion(written(sound)).didLoad());
+    forRows(rows, [&](int offset, quint32 number) {
+        const PYXWinResVersion file(written(QByteArray(sound).replace(offset, 4, numbers32({number}))));
+        QCOMPARE(tracesOf([&file] { QVERIFY(!file.didLoad()); }), QStringList());
+        PYXVersion version;
+        QVERIFY(file.fixedFileInfo() == nullptr && file.locales().isEmpty());
+        QVERIFY(!file.getFixedFileInfoVersion(PYXWinResVersion::ekFileVersion, version));
+        QVERIFY(!file.getVersion(PYXWinResVersion::ekFileVersion, version));
+    });
 }
 
 void tst_PYXWinResVersion::everyTruncation()
 {
-    QFETCH(QString, foreign);
-    if (!QFile::exists(foreign) && !foreign.isEmpty())
-        QSKIP("needs the package libwine");
-    QFile source(foreign);
-    const bool bOwn = foreign.isEmpty() || !source.open(QIODevice::ReadOnly);
-    QFile file(written(bOwn ? PeBytes::file(false, resources({{0, sampleBlock()}})) : source.readAll()));
-    const PYXWinResVersion whole(file.fileName());
-    const QString expected = whole.getStringInFirstLanguage("ProductVersion");
-    QVERIFY(file.open(QIODevice::ReadWrite) && !expected.isEmpty());
-    for (qint64 size = file.size(); --size >= 0;) {
-        QVERIFY(file.resize(size));
-        const PYXWinResVersion part(file.fileName());
+    const QByteArray whole = PeBytes::file(false, resources({{0, sampleBlock()}}));
+    for (int size = whole.size(); size >= 0; --size) {
+        const PYXWinResVersion part(written(whole.left(size)));
         const QString found = part.getStringInFirstLanguage("ProductVersion");
-        QVERIFY2(part.didLoad() ? found == expected : found.isEmpty(), qPrintable(QString::number(size)));
+        QVERIFY2(found == (part.didLoad() ? "9.8.7.6" : ""), qPrintable(QString::number(size)));
+        QVERIFY(part.didLoad() || size < whole.size());
     }
 }
 
