@@ -81,11 +81,11 @@ int runProbe(int, char **argv)
 }
 
 /** Does something for every information. */
-class ActingTracer : public RecordingTracer
+class CallingTracer : public RecordingTracer
 {
 public:
-    using Action = std::function<void(ActingTracer *)>;
-    explicit ActingTracer(Action action)
+    using Action = std::function<void(CallingTracer *)>;
+    explicit CallingTracer(Action action)
         : m_action(std::move(action))
     {
         PYXTraceWrapper::addTracer(this);
@@ -204,14 +204,14 @@ void tst_PYXTraceWrapper::tracersMayChangeTheList()
 {
     std::array<RecordingTracer, 50> added;
     int calls = 0;
-    const auto change = [&](ActingTracer *self) {
+    const auto change = [&](CallingTracer *self) {
         ++calls;
         PYXTraceWrapper::removeTracer(self);
         for (RecordingTracer &tracer : added)
             PYXTraceWrapper::addTracer(&tracer);
     };
-    const ActingTracer first(change);
-    const ActingTracer second(change);
+    const CallingTracer first(change);
+    const CallingTracer second(change);
     PYXTraceWrapper::staticTraceInfo(QString("x"), "f", 1);
     QCOMPARE(calls, 2);
     QCOMPARE(PYXTraceWrapper::tracers().size(), int(added.size()));
@@ -254,7 +254,7 @@ void tst_PYXTraceWrapper::singletonIsATracer()
 void tst_PYXTraceWrapper::tracesFromManyThreads()
 {
     std::atomic<int> count{0};
-    const ActingTracer tracer([&](ActingTracer *) { ++count; });
+    const CallingTracer tracer([&](CallingTracer *) { ++count; });
     std::array<std::thread, 4> threads;
     for (std::thread &thread : threads) {
         thread = std::thread([] {
