@@ -20,10 +20,12 @@
 #include <PYXSingleInstance.h>
 #include <PYXStandardIcons.h>
 #include <PYXTraceWrapper.h>
+#include <PYXXmlSettings.h>
 #include <SHW_Debug_AppMode.h>
 #include <SHW_General_Language.h>
 
 #include <QtCore/QLocale>
+#include <QtCore/QSettings>
 #include <QtWidgets/QApplication>
 
 #include <algorithm>
@@ -55,7 +57,7 @@ bool isHeadless(int argc, char **argv)
     });
 }
 
-/** Decides where the settings are: before the first of them are read. */
+/** Decides where the settings are: before the first of them are read, which the start of the library does. */
 void prepareSettings(bool bPortable)
 {
     using namespace PYXRuntime;
@@ -64,6 +66,7 @@ void prepareSettings(bool bPortable)
     auto *const info = qobject_cast<PYXApplicationInfoImpl *>(object);
     if (info == nullptr)
         return;
+    QSettings::setDefaultFormat(PYXXmlSettings::format()); // the one that is pointed at its place
     info->setPortable(bPortable);
     info->ensureInitialized();
 }
@@ -222,10 +225,10 @@ int run(bool bHeadless)
     if (result == PYXSingleInstance::ekHandedOver)
         return 0;
 
+    prepareSettings(commandLine.isPortable());
     PYXRuntime::initialize_PYXRuntime(bHeadless ? PYXRuntime::ekInitialize_NoFonts
                                                 : PYXRuntime::ekInitialize_Default);
     internals.initialize_PYXAppInternalsImpl();
-    prepareSettings(commandLine.isPortable());
     const int exitCode = bHeadless ? runHeadless(commandLine.recording())
                                    : runWindow(commandLine, internals, instance, result);
     internals.cleanup_PYXAppInternalsImpl();

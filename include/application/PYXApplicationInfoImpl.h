@@ -26,8 +26,9 @@ namespace PYXRuntime {
  *
  * The first query, and the first after a switch has changed, looks where the program lies, points the default
  * format of QSettings at the folders of a portable program, and outside of the compatibility mode writes
- * the default shared paths. A program that may be portable calls ensureInitialized() between
- * initialize_PYXRuntime() and its first settings.
+ * the default shared paths. A program that may be portable calls ensureInitialized() before its first
+ * settings: best before initialize_PYXRuntime(), which reads the proxy from them, with
+ * PYXXmlSettings::format() made the default format.
  *
  * Main thread only.
  */
