@@ -5,15 +5,16 @@
 #   cmake -D "EMULATOR=..." -D "PROGRAM=program;arguments..." -D EXPECT=regex -P PYXRunExample.cmake
 # Fails unless the program succeeds and its standard output matches EXPECT. Under an emulator the home is that of
 # the emulated system.
+
+# Short, since the path of a local socket may only have some hundred bytes.
+set(temporary "$ENV{TMPDIR}")
+if(NOT temporary)
+    set(temporary "/tmp")
+endif()
+string(RANDOM LENGTH 16 suffix)
+set(home "${temporary}/pyx-${suffix}")
+file(MAKE_DIRECTORY "${home}/run" "${home}/tmp")
 if(NOT EMULATOR)
-    # Short, since the path of a local socket may only have some hundred bytes.
-    set(temporary "$ENV{TMPDIR}")
-    if(NOT temporary)
-        set(temporary "/tmp")
-    endif()
-    string(RANDOM LENGTH 16 suffix)
-    set(home "${temporary}/pyx-${suffix}")
-    file(MAKE_DIRECTORY "${home}/run" "${home}/tmp")
     file(CHMOD "${home}/run" DIRECTORY_PERMISSIONS OWNER_READ OWNER_WRITE OWNER_EXECUTE)
     set(ENV{HOME} "${home}")
     set(ENV{XDG_CONFIG_HOME} "${home}/config")
@@ -25,11 +26,11 @@ if(NOT EMULATOR)
     unset(ENV{DBUS_SESSION_BUS_ADDRESS})
     unset(ENV{DISPLAY})
 endif()
-execute_process(COMMAND ${EMULATOR} ${PROGRAM} TIMEOUT 100
-    RESULT_VARIABLE result OUTPUT_VARIABLE output ECHO_OUTPUT_VARIABLE)
-if(home)
-    file(REMOVE_RECURSE "${home}")
-endif()
+# Not through a pipe, which what an emulator leaves running would keep open.
+execute_process(COMMAND ${EMULATOR} ${PROGRAM} TIMEOUT 100 RESULT_VARIABLE result OUTPUT_FILE "${home}/output")
+file(READ "${home}/output" output)
+file(REMOVE_RECURSE "${home}")
+message("${output}")
 if(NOT result EQUAL 0)
     message(FATAL_ERROR "The example has failed: ${result}")
 endif()

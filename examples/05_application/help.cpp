@@ -8,36 +8,15 @@
 
 #include <QApplication>
 #include <QDesktopServices>
-#include <QFile>
 #include <QFormLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTemporaryDir>
 #include <QTextStream>
 
 using namespace PYXRuntime;
 
 namespace {
-
-void write(const QString &path, const char *text)
-{
-    QFile file(path);
-    if (file.open(QIODevice::WriteOnly))
-        file.write(text);
-}
-
-/** In earnest these files are installed with the program. */
-void writeHelp(const QString &directory)
-{
-    write(directory + "/index.html", "<h1>Receiver</h1>");
-    write(directory + "/window.html", "<h2 id='gain'>Gain</h2>");
-    write(directory + "/help.xml", R"(<HelpEntries start="index.html">
-    <Entry context="ReceiverWindow" page="window.html"/>
-    <Entry context="ReceiverWindow::Gain" page="window.html#gain"/>
-</HelpEntries>
-)");
-}
 
 /** An application with a help window of its own takes the pages that the system's browser would get. */
 class HelpWindow : public QObject
@@ -73,9 +52,9 @@ int main(int argc, char **argv)
     QApplication::setApplicationName("05 Help");
     initialize_PYXRuntime();
 
-    const QTemporaryDir directory;
-    writeHelp(directory.path());
-    PYXHelpConnectorImpl::getInstance()->setHelpEntryFile(directory.filePath("help.xml"));
+    // Before the windows. CMakeLists.txt puts the files beside the program.
+    PYXHelpConnectorImpl::getInstance()->setHelpEntryFile(QApplication::applicationDirPath() +
+                                                          "/help/help.xml");
     const HelpWindow help;
 
     QWidget window;
