@@ -78,8 +78,7 @@ check_windows() {
         wineserver -k || true
         exit $status' bash \
         "$scratch/windows/trial.sh" "$prefix" "$PWD/scripts/windows/run-wine.sh" \
-        --toolchain "$PWD/cmake/mingw-toolchain.cmake" -DWINQT_PREFIX="$WINQT_PREFIX" \
-        -DCMAKE_FIND_ROOT_PATH_MODE_PACKAGE=BOTH 9>&-
+        --toolchain "$PWD/cmake/mingw-toolchain.cmake" -DWINQT_PREFIX="$WINQT_PREFIX" 9>&-
 }
 
 case ${1:-} in
