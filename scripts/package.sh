@@ -63,7 +63,8 @@ windows() {
     # shellcheck source=scripts/windows/find-qt.sh
     source scripts/windows/find-qt.sh
     find_qt
-    cmake --preset windows -B $build "${only_library[@]}" -DWINQT_PREFIX="$WINQT_PREFIX"
+    cmake --preset windows -B $build "${only_library[@]}" -DPYX_KEYCHAIN=OFF \
+        -DWINQT_PREFIX="$WINQT_PREFIX"
     cmake --build $build -j "$jobs"
     pack $build 'PYXRuntime-*.zip'
 }

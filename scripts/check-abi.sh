@@ -1,0 +1,66 @@
+#!/bin/bash
+# SPDX-FileCopyrightText: 2026 The PYXRuntime developers
+# SPDX-License-Identifier: LGPL-3.0-or-later
+#
+# check-abi.sh BASE: fails where a program compiled against BASE (the tag or commit of a release) would not work with
+# the library as it is now: names that are gone, classes of another size or layout, tables of virtual functions that
+# differ; all that abidiff sees in what the public headers declare. Changes are allowed together with a new SONAME.
+# The library of BASE is built for that and kept in build/abi, the one that is here is of the preset dev. Nothing of it
+# is in the repository: a description of the interface as abidw writes it is 14 MB, and only fits the version of the
+# tool that wrote it.
+#   PYX_JOBS   how many jobs at a time (default: one per processor)
+set -euo pipefail
+cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.."
+jobs=${PYX_JOBS:-$(nproc)}
+if [ $# -ne 1 ] || ! base=$(git rev-parse -q --verify "$1^{commit}"); then
+    echo "usage: check-abi.sh BASE (a tag or commit)" >&2
+    exit 2
+fi
+kept=build/abi/$base
+# Beside the build of what is here, so that ccache knows most of it.
+sources=$kept/sources
+trap 'rm -rf "$sources"; git worktree prune' EXIT
+
+# build SOURCES
+build() {
+    local log=$1/build/dev/log
+    mkdir -p "$(dirname "$log")"
+    {
+        cmake --preset dev -S "$1" && cmake --build "$1/build/dev" -j "$jobs" --target PYXRuntime
+    } >"$log" 2>&1 || {
+        tail -n 40 "$log" >&2
+        return 1
+    }
+}
+
+soname() { objdump -p "$1" | awk '$1 == "SONAME" { print $2 }'; }
+
+if [ ! -e "$kept/libPYXRuntime.so" ]; then
+    echo "check-abi.sh: building $1"
+    rm -rf "$kept"
+    git worktree prune
+    git worktree add -q --detach "$sources" "$base"
+    build "$sources"
+    cp -r "$sources/include" "$kept/"
+    cp "$sources/build/dev/lib/libPYXRuntime.so" "$kept/"
+fi
+echo "check-abi.sh: building what is here"
+build .
+current=build/dev/lib/libPYXRuntime.so
+
+echo "check-abi.sh: comparing"
+status=0
+abidiff --exported-interfaces-only --drop-private-types --no-added-syms --hd1 "$kept/include" --hd2 include \
+    --suppressions abi/abidiff.suppr "$kept/libPYXRuntime.so" $current || status=$?
+if [ $status -eq 0 ]; then
+    echo "check-abi.sh: programs compiled against $1 go on working."
+elif [ $((status & 3)) -ne 0 ]; then
+    echo "check-abi.sh: abidiff failed." >&2
+    exit 1
+elif [ "$(soname $current)" != "$(soname "$kept/libPYXRuntime.so")" ]; then
+    echo "check-abi.sh: the library differs from that of $1, and says so by its name, $(soname $current)."
+else
+    echo "check-abi.sh: programs compiled against $1 may not work any more: keep the old interface, or raise the" \
+        "major version in CMakeLists.txt, with which the SONAME and the name of the package change." >&2
+    exit 1
+fi
