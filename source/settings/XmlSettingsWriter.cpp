@@ -10,6 +10,8 @@
 #include <QtCore/QFileDevice>
 #include <QtCore/QtDebug>
 
+#include <algorithm>
+
 namespace PYXRuntime {
 namespace {
 
@@ -70,7 +72,11 @@ QByteArray XmlSettingsWriter::document(const XmlSettingsNode &root)
 
 void XmlSettingsWriter::_beginLine(int indentation)
 {
-    m_bytes.append('\n').append(indentation, ' ');
+    const int start = m_bytes.size();
+    m_bytes.resize(start + 1 + indentation);
+    char *const line = m_bytes.data() + start;
+    *line = '\n';
+    std::fill_n(line + 1, indentation, ' ');
 }
 
 /** The key of the node that is being written, for messages. */
