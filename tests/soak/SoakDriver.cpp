@@ -127,7 +127,7 @@ void SoakDriver::start(double speed)
     _every(6000, QStringLiteral("threads begun"), [this] { _startWorker(); });
     _every(7000, QStringLiteral("questions asked"), [this] { _ask(); });
     _every(5000, QStringLiteral("pop-ups queued"),
-           [this] { PYXPopupNotification::queueQuickNotification(tr("A pop-up"), &m_window); });
+           [this] { PYXPopupNotification::queueQuickNotification(QStringLiteral("A pop-up"), &m_window); });
     _every(13'000, QStringLiteral("settings dialogs opened"), [this] { _openOwnDialog(); });
     _every(17'000, QStringLiteral("settings dialogs made"), [this] { _openNewDialog(); });
 }
@@ -364,8 +364,9 @@ void SoakDriver::_ask()
         return true;
     });
     PYXNotification::showAllMessagesAgain();
-    PYXNotification::question(&m_window, tr("Soak"), tr("Go on with %1?").arg(count), QStringLiteral("Soak"),
-                              key, QDialogButtonBox::Yes | QDialogButtonBox::No, QDialogButtonBox::No, true);
+    PYXNotification::question(&m_window, QStringLiteral("Soak"), QStringLiteral("Go on with %1?").arg(count),
+                              QStringLiteral("Soak"), key, QDialogButtonBox::Yes | QDialogButtonBox::No,
+                              QDialogButtonBox::No, true);
     m_bDialogOpen = false;
 }
 
