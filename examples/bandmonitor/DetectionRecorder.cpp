@@ -6,6 +6,8 @@
 
 #include <QtCore/QDateTime>
 
+#include <iterator>
+
 namespace BandMonitor {
 namespace {
 
@@ -65,7 +67,10 @@ void DetectionRecorder::_sl_monitor_samples(const struSampleBlock &a_block)
 
 void DetectionRecorder::_sl_monitor_spectrum()
 {
-    for (const struDetection &detection : m_monitor->detector().detections()) {
+    const std::vector<struDetection> detections = m_monitor->detector().detections();
+    if (m_known.size() > detections.size())
+        _forgetAllBut(detections);
+    for (const struDetection &detection : detections) {
         const bool bWasOnAir = m_onAir.count(detection.id) != 0;
         if (detection.bOnAir == bWasOnAir)
             continue;
@@ -77,6 +82,17 @@ void DetectionRecorder::_sl_monitor_spectrum()
         if (m_known.insert(detection.id).second && !m_snippets.isBusy())
             _beginSnippet(detection);
     }
+}
+
+/** Signals that the detector has dropped do not come back under their numbers. */
+void DetectionRecorder::_forgetAllBut(const std::vector<struDetection> &detections)
+{
+    std::set<int> ids;
+    for (const struDetection &detection : detections)
+        ids.insert(detection.id);
+    for (std::set<int> *const remembered : {&m_known, &m_onAir})
+        for (auto id = remembered->begin(); id != remembered->end();)
+            id = ids.count(*id) != 0 ? std::next(id) : remembered->erase(id);
 }
 
 void DetectionRecorder::_note(const struDetection &detection)

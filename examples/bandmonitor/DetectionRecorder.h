@@ -41,6 +41,7 @@ Q_SIGNALS:
 private:
     void _sl_monitor_samples(const BandMonitor::struSampleBlock &a_block);
     void _sl_monitor_spectrum();
+    void _forgetAllBut(const std::vector<struDetection> &detections);
     void _note(const struDetection &detection);
     void _beginSnippet(const struDetection &detection);
     void _fail(const QString &reason);
@@ -50,7 +51,7 @@ private:
     SnippetWriter m_snippets;
     std::deque<struSampleBlock> m_latest; ///< the last second
     std::size_t m_latestCount = 0;        ///< of samples
-    std::set<int> m_known;                ///< signals that have been on air
+    std::set<int> m_known;                ///< signals that have been on air, of those that the detector has
     std::set<int> m_onAir;
     bool m_bFailed = false;
 };

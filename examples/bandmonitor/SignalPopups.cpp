@@ -51,12 +51,15 @@ void SignalPopups::forget()
 
 void SignalPopups::setDetections(const std::vector<struDetection> &detections)
 {
+    std::set<int> known; // without those that have gone: they do not come back under that number
     std::map<int, double> news;
     for (const struDetection &detection : detections) {
-        const bool bNew = m_known.insert(detection.id).second;
+        known.insert(detection.id);
+        const bool bNew = m_known.count(detection.id) == 0;
         if (m_bEnabled && (bNew || m_news.count(detection.id) > 0))
             news[detection.id] = detection.frequency;
     }
+    m_known = std::move(known);
     m_news = std::move(news); // without those that have turned out to be part of another
     if (m_news.empty() || m_timer.isActive())
         return;

@@ -20,10 +20,23 @@ using Locker = std::lock_guard<DataMutex>;
 
 constexpr qint64 NanosecondsPerMillisecond = 1'000'000;
 
+/**
+ * More than any program has open: one that exports to ever new files is not to keep something of each for
+ * ever. A file that is forgotten is as safe as QSettings makes it.
+ */
+constexpr int MostFiles = 1024;
+
+struct struSeenFile
+{
+    struFileState state;
+    quint64 turn = 0; ///< the highest was seen last
+};
+
 struct struSeen
 {
     DataMutex mutex;
-    QHash<QString, struFileState> states;
+    QHash<QString, struSeenFile> files;
+    quint64 turn = 0;
 };
 
 struSeen &seen()
@@ -35,19 +48,23 @@ struSeen &seen()
 void remember(const QString &path, const struFileState &state)
 {
     const Locker locker(seen().mutex);
-    seen().states.insert(path, state);
+    auto &files = seen().files;
+    if (files.size() >= MostFiles && !files.contains(path))
+        files.erase(std::min_element(files.begin(), files.end(),
+                                     [](const auto &a, const auto &b) { return a.turn < b.turn; }));
+    files.insert(path, {state, ++seen().turn});
 }
 
 void forget(const QString &path)
 {
     const Locker locker(seen().mutex);
-    seen().states.remove(path);
+    seen().files.remove(path);
 }
 
 struFileState remembered(const QString &path)
 {
     const Locker locker(seen().mutex);
-    return seen().states.value(path);
+    return seen().files.value(path).state;
 }
 
 /** QSettings does not read an empty file, so there is nothing in it that it could have missed. */

@@ -57,6 +57,7 @@ class tst_Rounds : public QObject
     Q_OBJECT
 private slots:
     void leaveNothing();
+    void keepNothingOfEveryFile();
 
 private:
     void round(int number);
@@ -179,6 +180,24 @@ void tst_Rounds::leaveNothing()
     }
     QCOMPARE(ProcessFigures::descriptors(), descriptors);
     QCOMPARE(ProcessFigures::threads(), threads);
+    const double grown = ProcessFigures::heapInUse() - heap;
+    QVERIFY2(grown <= HeapSlack, qPrintable(QString("%1 KiB more").arg(grown)));
+}
+
+/** A program that exports its settings to a new file every minute runs for months. */
+void tst_Rounds::keepNothingOfEveryFile()
+{
+    const auto writeFiles = [this](int first, int count) {
+        for (int i = first; i < first + count; ++i) {
+            const QString path = m_home.path(QString("export %1.PYXXml").arg(i, 6, 10, QChar('0')));
+            PYXSettings(path).setValue("Number", i);
+            QVERIFY(QFile::remove(path));
+            QCoreApplication::processEvents();
+        }
+    };
+    writeFiles(0, 1100);
+    const double heap = ProcessFigures::heapInUse();
+    writeFiles(1100, 300);
     const double grown = ProcessFigures::heapInUse() - heap;
     QVERIFY2(grown <= HeapSlack, qPrintable(QString("%1 KiB more").arg(grown)));
 }

@@ -36,6 +36,8 @@
 #include <QtWidgets/QPushButton>
 #include <QtWidgets/QTreeWidget>
 
+#include <algorithm>
+
 using namespace PYXRuntime;
 using BandMonitor::MainWindow;
 using BandMonitor::SignalMonitor;
@@ -102,13 +104,15 @@ SoakDriver::~SoakDriver()
 void SoakDriver::start(double speed)
 {
     fillFileList(m_directory);
-    auto *const speedBox = m_window.findChild<QComboBox *>();
-    speedBox->addItem(QString::number(speed), speed);
-    speedBox->setCurrentIndex(speedBox->count() - 1);
+    m_speed = speed;
+    m_window.findChild<QComboBox *>()->addItem(QString::number(speed), speed);
     m_window.findChild<QAction *>(QStringLiteral("popUpsAction"))->setChecked(true);
     PYXPopupNotification::connect_queueEmpty(this, SLOT(_sl_popUps_queueEmpty()));
     m_sinceQueueEmpty.start();
+    m_sinceStart.start();
     _playAnew();
+    _keepPace();
+    _every(500, QStringLiteral("speeds set"), [this] { _keepPace(); });
     _every(60'000, QStringLiteral("sources begun"), [this] { _playAnew(); });
     _every(3000, QStringLiteral("languages switched"), [this] { _switchLanguage(); });
     _every(4000, QStringLiteral("modes switched"), [this] { _switchModes(); });
@@ -123,7 +127,7 @@ void SoakDriver::start(double speed)
     _every(6000, QStringLiteral("threads begun"), [this] { _startWorker(); });
     _every(7000, QStringLiteral("questions asked"), [this] { _ask(); });
     _every(5000, QStringLiteral("pop-ups queued"),
-           [this] { PYXPopupNotification::queueQuickNotification(tr("A pop-up"), &m_window); });
+           [this] { PYXPopupNotification::queueQuickNotification(QStringLiteral("A pop-up"), &m_window); });
     _every(13'000, QStringLiteral("settings dialogs opened"), [this] { _openOwnDialog(); });
     _every(17'000, QStringLiteral("settings dialogs made"), [this] { _openNewDialog(); });
 }
@@ -173,6 +177,17 @@ void SoakDriver::_playAnew()
     connect(monitor, &SignalMonitor::si_spectrum, this, [this](const BandMonitor::struSpectrum &spectrum) {
         m_lineFiles.write(QByteArray::number(spectrum.time) + '\n');
     });
+}
+
+/** What the window leaves out while it has other things to do is caught up with. */
+void SoakDriver::_keepPace()
+{
+    const double behind = m_speed * double(m_sinceStart.elapsed()) / 1000 - playedSeconds();
+    auto *const speedBox = m_window.findChild<QComboBox *>();
+    const int last = speedBox->count() - 1;
+    speedBox->setItemData(last, m_speed + std::clamp(behind, 0.0, m_speed));
+    speedBox->setCurrentIndex(0);
+    speedBox->setCurrentIndex(last);
 }
 
 void SoakDriver::_switchLanguage()
@@ -349,8 +364,9 @@ void SoakDriver::_ask()
         return true;
     });
     PYXNotification::showAllMessagesAgain();
-    PYXNotification::question(&m_window, tr("Soak"), tr("Go on with %1?").arg(count), QStringLiteral("Soak"),
-                              key, QDialogButtonBox::Yes | QDialogButtonBox::No, QDialogButtonBox::No, true);
+    PYXNotification::question(&m_window, QStringLiteral("Soak"), QStringLiteral("Go on with %1?").arg(count),
+                              QStringLiteral("Soak"), key, QDialogButtonBox::Yes | QDialogButtonBox::No,
+                              QDialogButtonBox::No, true);
     m_bDialogOpen = false;
 }
 

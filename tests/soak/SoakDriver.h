@@ -57,7 +57,7 @@ private Q_SLOTS:
 private:
     void _every(int milliseconds, const QString &name, const std::function<void()> &work);
     void _playAnew();
-    void _writeSamples(const char *data, qint64 size);
+    void _keepPace();
     void _switchLanguage();
     void _switchModes();
     void _syncSettings();
@@ -89,7 +89,9 @@ private:
     std::unique_ptr<PYXRuntime::PYXSettingsWatcher> m_watcher;
     QThread *m_worker = nullptr;
     QMap<QString, int> m_counts;
+    QElapsedTimer m_sinceStart;
     QElapsedTimer m_sinceQueueEmpty;
+    double m_speed = 1;
     double m_playedBefore = 0; ///< of sources that have been replaced, in seconds
     int m_blocks = 0;
     bool m_bDialogOpen = false;

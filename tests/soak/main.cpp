@@ -28,6 +28,10 @@
 #include <QtWidgets/QPlainTextEdit>
 #include <QtWidgets/QTableView>
 
+#include <malloc.h>
+
+#include <ctime>
+
 using namespace PYXRuntime;
 using BandMonitor::MainWindow;
 
@@ -68,8 +72,13 @@ struOptions optionsOf(const QCoreApplication &application)
     parser.addHelpOption();
     parser.addOptions({minutes, warmUp, speed, least, loop, noVerdict, samples});
     parser.process(application);
-    return {parser.value(minutes).toDouble(), parser.value(speed).toDouble(), parser.value(least).toDouble(),
-            parser.value(warmUp).toDouble(), parser.value(samples)};
+    return {parser.value(minutes).toDouble(),
+            parser.value(speed).toDouble(),
+            parser.value(least).toDouble(),
+            parser.value(warmUp).toDouble(),
+            parser.value(loop).toDouble(),
+            !parser.isSet(noVerdict),
+            parser.value(samples)};
 }
 
 double rowsOf(const QWidget &window, const char *table)
@@ -102,7 +111,7 @@ void addTables(SoakReport &report, const MainWindow &window, const SoakDriver &d
     add("tracers", 10, [] { return PYXTraceWrapper::tracers().size(); });
     add("registered files", 1000, [] { return PYXFileListImpl::getInstance()->fileList().size(); });
     add("suppressed messages", 50, [] { return PYXNotification::suppressedMessages().size(); });
-    add("s since the pop-up queue was empty", 30, [&] { return driver.secondsSincePopUpQueueWasEmpty(); });
+    add("s since the pop-up queue was empty", 60, [&] { return driver.secondsSincePopUpQueueWasEmpty(); });
     add("blocks of the pool", 200, [&] {
         const auto statistics = window.monitor()->pool().statistics();
         return double(statistics.acquiredBlocks + statistics.freeBlocks);
@@ -118,9 +127,13 @@ bool print(const struOptions &options, const SoakReport &report, const SoakDrive
 {
     QTextStream out(stdout);
     const double played = driver.playedSeconds();
-    out << QStringLiteral("%1 s of the band (%2 million samples) in %3 s: %4 times real time.\n\n")
+    const double processor = double(std::clock()) / CLOCKS_PER_SEC;
+    out << QStringLiteral(
+               "%1 s of the band (%2 million samples) in %3 s: %4 times real time. Everything together "
+               "took %5 s of processor time.\n\n")
                .arg(QString::number(played, 'f', 0), QString::number(played * 0.096, 'f', 0),
-                    QString::number(seconds, 'f', 0), QString::number(played / seconds, 'f', 1));
+                    QString::number(seconds, 'f', 0), QString::number(played / seconds, 'f', 1),
+                    QString::number(processor, 'f', 0));
     const QMap<QString, int> counts = driver.counts();
     QStringList done;
     QStringList failures = report.failures();
@@ -172,10 +185,13 @@ int soak(const struOptions &options, const QString &directory)
     QTimer sampling;
     QObject::connect(&sampling, &QTimer::timeout, [&] {
         const double seconds = double(elapsed.elapsed()) / 1000;
+        if (QApplication::activeModalWidget() != nullptr)
+            return; // dialogs come and go: what they take is not to be compared with what is without them
+        malloc_trim(0);
         report.takeSample(seconds);
         if (warm.isEmpty() && seconds > options.warmUp * 60)
             warm = ObjectCensus::histogram();
-        if (seconds >= options.minutes * 60 && QApplication::activeModalWidget() == nullptr)
+        if (seconds >= options.minutes * 60)
             QCoreApplication::quit();
     });
     sampling.start(SampleInterval);
