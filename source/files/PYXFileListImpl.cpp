@@ -88,11 +88,12 @@ void PYXFileListImpl::registerFile(const QString &filePath, eFileType fileType, 
     if (_contains(file))
         return;
     takeTimes(file, start, end);
+    const QPointer<PYXFileListImpl> guard(this);
     PYXTraceWrapper::staticTraceDebug(QLatin1String("PYXFileListImpl::registerFile(): componentName: ") +
                                           file.componentName,
                                       TraceFile, RegisterTraceLine);
-    // Who hears that a file leaves may register, clear or shut down.
-    if (!_makeRoomFor(file))
+    // Who hears of it, or that a file leaves, may register, clear or shut down.
+    if (guard.isNull() || _contains(file) || !_makeRoomFor(file))
         return;
     m_fileList.append(file);
     Q_EMIT si_fileCountChanged(file.componentName, _changeCount(file.componentName, 1));

@@ -246,7 +246,7 @@ void tst_PYXCountingFileSet::registersItsFiles()
             set.write("c");
     }));
     thread->start();
-    for (int i = 0; i < 500; ++i) {
+    for (int i = 0; i < 100; ++i) {
         PYXFileListImpl::destroyInstance();
         PYXFileListImpl::makeSureInitialized();
     }

@@ -131,6 +131,12 @@ void tst_PYXFileListImpl::survivesListenersThatChangeIt()
     connect(list, &PYXIFileList::si_fileCountChanged, this, [] { PYXFileListImpl::destroyInstance(); });
     put("/c", "C");
     QVERIFY(!PYXFileListImpl::hasInstance());
+    const ActingTracer again([] { put("/d", "D"); });
+    put("/d", "D");
+    QCOMPARE(PYXFileListImpl::getInstance()->fileList().size(), 1);
+    const ActingTracer tracer([] { PYXFileListImpl::destroyInstance(); });
+    put("/e", "E");
+    QVERIFY(!PYXFileListImpl::hasInstance());
 }
 
 QTEST_GUILESS_MAIN(tst_PYXFileListImpl)
