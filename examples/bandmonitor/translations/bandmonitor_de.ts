@@ -262,6 +262,14 @@ Qt %2</translation>
         <source>Begin</source>
         <translation>Beginn</translation>
     </message>
+    <message>
+        <source>Detections</source>
+        <translation>Signale</translation>
+    </message>
+    <message>
+        <source>Snippets</source>
+        <translation>Ausschnitte</translation>
+    </message>
 </context>
 <context>
     <name>BandMonitor::HeadlessRun</name>

@@ -262,6 +262,14 @@ Qt %2</translation>
         <source>Begin</source>
         <translation>Début</translation>
     </message>
+    <message>
+        <source>Detections</source>
+        <translation>Détections</translation>
+    </message>
+    <message>
+        <source>Snippets</source>
+        <translation>Extraits</translation>
+    </message>
 </context>
 <context>
     <name>BandMonitor::HeadlessRun</name>
