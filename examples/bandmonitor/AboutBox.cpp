@@ -34,15 +34,17 @@ void showAboutBox(QWidget *parent)
 
     auto *const box = new QMessageBox(
         QMessageBox::NoIcon, AboutBoxTexts::tr("About %1").arg(QCoreApplication::applicationName()),
-        AboutBoxTexts::tr("Shows the signals in a recording, or in a band of its own."), QMessageBox::Ok,
-        parent);
+        QCoreApplication::applicationName() + QLatin1Char(' ') + QCoreApplication::applicationVersion(),
+        QMessageBox::Ok, parent);
     box->setObjectName(QStringLiteral("aboutBox"));
     box->setIconPixmap(QApplication::windowIcon().pixmap(IconSize));
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    box->setInformativeText((bPortable ? AboutBoxTexts::tr("Settings, portable:\n%1\n\nQt %2")
-                                       : AboutBoxTexts::tr("Settings:\n%1\n\nQt %2"))
-                                .arg(settings, QLatin1String(qVersion())));
+    const QString purpose = AboutBoxTexts::tr("Shows the signals in a recording, or in a band of its own.") +
+                            QLatin1String("\n\n");
+    box->setInformativeText(purpose + (bPortable ? AboutBoxTexts::tr("Settings, portable:\n%1\n\nQt %2")
+                                                 : AboutBoxTexts::tr("Settings:\n%1\n\nQt %2"))
+                                          .arg(settings, QLatin1String(qVersion())));
     box->open();
 }
 

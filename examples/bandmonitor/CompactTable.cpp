@@ -22,7 +22,6 @@ void makeCompact(QTableView *table, const QFont &font)
     table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 6);
     table->horizontalHeader()->setFont(table->font());
     table->horizontalHeader()->setHighlightSections(false);
-    table->horizontalHeader()->setTextElideMode(Qt::ElideRight);
 }
 
 QTableView *createCompactTable(QAbstractItemModel *model, const QFont &font)

@@ -63,6 +63,7 @@ void DetectionDock::_createTable()
     m_table->setIconSize({8, 8});
 
     QHeaderView *const header = m_table->horizontalHeader();
+    header->setTextElideMode(Qt::ElideRight);
     header->setSectionResizeMode(QHeaderView::Stretch);
     header->setSectionResizeMode(DetectionModel::ekColumn_Frequency, QHeaderView::Fixed);
     header->resizeSection(DetectionModel::ekColumn_Frequency,

@@ -12,7 +12,7 @@ namespace BandMonitor {
 namespace {
 
 const QLatin1String TableName("detections.csv");
-const QLatin1String ComponentName("Detections");
+const QLatin1String ComponentName(QT_TRANSLATE_NOOP("BandMonitor::FileModel", "Detections"));
 const char Headings[] = "time_utc,event,signal,frequency_hz,bandwidth_hz,level_dbfs,recording_s\n";
 
 constexpr double SecondsBefore = 1;

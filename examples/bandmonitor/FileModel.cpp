@@ -80,7 +80,7 @@ QVariant FileModel::data(const QModelIndex &index, int role) const
         return {};
     switch (index.column()) {
     case ekColumn_Component:
-        return file.componentName;
+        return tr(file.componentName.toUtf8().constData());
     case ekColumn_File:
         return QFileInfo(file.filePath).fileName();
     case ekColumn_Type:

@@ -10,7 +10,7 @@
 #include "DetectionDock.h"
 #include "DetectionRecorder.h"
 #include "DeveloperDocks.h"
-#include "FetchDialog.h"
+#include "FileCommands.h"
 #include "FileDock.h"
 #include "HeadlessRun.h"
 #include "LogDock.h"
@@ -22,14 +22,12 @@
 #include "SignalPopups.h"
 #include "StateBar.h"
 #include "StationDock.h"
-#include "TableText.h"
 #include "Units.h"
 #include "WavReader.h"
 
 #include <AppInternals.h>
 #include <PYXAppInternalsImpl.h>
 #include <PYXBroker.h>
-#include <PYXFileFilter.h>
 #include <PYXIApplicationInfo.h>
 #include <PYXNotification.h>
 #include <PYXRecentFilesMenu.h>
@@ -37,15 +35,12 @@
 #include <PYXStandardIcons.h>
 #include <PYXTraceWrapper.h>
 
-#include <QtCore/QSaveFile>
 #include <QtGui/QCloseEvent>
 #include <QtGui/QShowEvent>
 #include <QtWidgets/QAction>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QComboBox>
-#include <QtWidgets/QInputDialog>
 
-using PYXRuntime::PYXFileFilter;
 using PYXRuntime::PYXNotification;
 using PYXRuntime::PYXRecentFilesMenu;
 using PYXRuntime::PYXSettings;
@@ -65,11 +60,6 @@ const QLatin1String RecentKey("RecentRecordings");
 const QLatin1String CloseQuestionModule("BandMonitor");
 const QLatin1String CloseQuestion("CloseWhileRecording");
 
-const QLatin1String RecordingsFilter("Recordings");
-const QLatin1String TablesFilter("Tables");
-
-constexpr int UrlQuestionWidth = 480;
-
 // How the window is divided at first.
 constexpr double TableShare = 0.55;
 constexpr double DockShare = 0.27;
@@ -79,6 +69,7 @@ constexpr double DockShare = 0.27;
 MainWindow::MainWindow(QWidget *parent)
     : QMainWindow(parent)
     , m_settings(new ApplicationSettings(this))
+    , m_files(new FileCommands(this))
     , m_plots(new PlotArea)
     , m_stateBar(new StateBar)
     , m_popups(new SignalPopups(this))
@@ -106,7 +97,7 @@ void MainWindow::changeEvent(QEvent *event)
 
 void MainWindow::_retranslate()
 {
-    _registerFilters();
+    m_files->retranslate();
     m_actions->retranslate();
     m_developerDocks->retranslate();
     _showTitle();
@@ -242,24 +233,18 @@ void MainWindow::_createDocks()
     m_developerDocks = new DeveloperDocks(this, m_actions);
 }
 
-void MainWindow::_registerFilters()
-{
-    PYXFileFilter::registerFilter(RecordingsFilter, tr("Recordings"), {QStringLiteral("*.wav")});
-    PYXFileFilter::registerFilter(TablesFilter, tr("Comma-separated tables"), {QStringLiteral("*.csv")});
-}
-
 void MainWindow::_createActions()
 {
-    _registerFilters();
+    connect(m_files, &FileCommands::si_recordingChosen, this, &MainWindow::openRecording);
     connect(m_recentMenu, &PYXRecentFilesMenu::si_fileChosen, this, &MainWindow::openRecording);
     m_actions = new MainActions(this, m_recentMenu);
     const auto onTriggered = [this](MainActions::eAction id, auto slot) {
         connect(m_actions->action(id), &QAction::triggered, this, slot);
     };
-    onTriggered(MainActions::ekAction_Open, &MainWindow::_sl_openAction_triggered);
-    onTriggered(MainActions::ekAction_OpenUrl, &MainWindow::_sl_openUrlAction_triggered);
+    onTriggered(MainActions::ekAction_Open, [this] { m_files->openRecording(); });
+    onTriggered(MainActions::ekAction_OpenUrl, [this] { m_files->openUrl(); });
     onTriggered(MainActions::ekAction_OwnBand, &MainWindow::openOwnBand);
-    onTriggered(MainActions::ekAction_Save, &MainWindow::_sl_saveAction_triggered);
+    onTriggered(MainActions::ekAction_Save, [this] { m_files->save(m_detectionDock->table()); });
     onTriggered(MainActions::ekAction_Quit, &QWidget::close);
     onTriggered(MainActions::ekAction_Play, [this] { setPlaying(!m_playback.isRunning()); });
     onTriggered(MainActions::ekAction_Detector,
@@ -381,51 +366,6 @@ void MainWindow::playToEnd()
         continue;
     setPlaying(false);
     _showDetections();
-}
-
-void MainWindow::_sl_openAction_triggered()
-{
-    const PYXFileFilter filter(QStringLiteral("OpenRecording"), {RecordingsFilter});
-    const QString path = filter.getOpenFileName(this, tr("Open Recording"));
-    if (!path.isEmpty())
-        openRecording(path);
-}
-
-void MainWindow::_sl_openUrlAction_triggered()
-{
-    auto *const question = new QInputDialog(this);
-    question->setAttribute(Qt::WA_DeleteOnClose);
-    question->setWindowTitle(tr("Open URL"));
-    question->setLabelText(tr("Address of the recording:"));
-    question->setTextValue(QStringLiteral("https://"));
-    question->resize(UrlQuestionWidth, question->sizeHint().height());
-    connect(question, &QInputDialog::textValueSelected, this, &MainWindow::_fetchRecording);
-    question->open();
-}
-
-void MainWindow::_fetchRecording(const QString &address)
-{
-    const QUrl url = QUrl::fromUserInput(address.trimmed());
-    if (!url.isValid())
-        return;
-    auto *const dialog = new FetchDialog(url, this);
-    connect(dialog, &FetchDialog::si_fetched, this, &MainWindow::openRecording);
-    connect(dialog, &FetchDialog::si_failed, this, [this](const QString &reason) {
-        complain(this, tr("This recording cannot be fetched."), reason, TraceFile, __LINE__);
-    });
-}
-
-void MainWindow::_sl_saveAction_triggered()
-{
-    const PYXFileFilter filter(QStringLiteral("SaveSignals"), {TablesFilter});
-    const QString path = filter.getSaveFileName(this, tr("Save Signals"));
-    if (path.isEmpty())
-        return;
-    QSaveFile file(path);
-    const QByteArray table = csvText(m_detectionDock->table()).toUtf8();
-    if (!file.open(QIODevice::WriteOnly) || file.write(table) != table.size() || !file.commit())
-        complain(this, tr("The signals cannot be saved."), path + QLatin1String(": ") + file.errorString(),
-                 TraceFile, __LINE__);
 }
 
 void MainWindow::_showDetections()

@@ -22,6 +22,7 @@ class ApplicationSettings;
 class DetectionDock;
 class DetectionRecorder;
 class DeveloperDocks;
+class FileCommands;
 class MainActions;
 class PlotArea;
 class SignalMonitor;
@@ -75,13 +76,8 @@ private:
     void _showState();
     void _showTitle();
     bool _mayClose();
-    void _sl_openAction_triggered();
-    void _sl_openUrlAction_triggered();
-    void _fetchRecording(const QString &address);
-    void _sl_saveAction_triggered();
     void _sl_settings_applied();
     void _retranslate();
-    void _registerFilters();
     /** Keeps a choice of the user at once, where choices are kept. */
     void _keep(void (*set)(PYXRuntime::PYXSettings &, bool), bool bValue) const;
 
@@ -94,6 +90,7 @@ private:
     struDetectorParameters m_detectorParameters;
 
     ApplicationSettings *m_settings;
+    FileCommands *m_files;
     PlotArea *m_plots;
     StateBar *m_stateBar;
     SignalPopups *m_popups;

@@ -9,7 +9,7 @@
 namespace BandMonitor {
 namespace {
 
-const QLatin1String ComponentName("Snippets");
+const QLatin1String ComponentName(QT_TRANSLATE_NOOP("BandMonitor::FileModel", "Snippets"));
 
 constexpr int FloatTag = 3; // WAVE_FORMAT_IEEE_FLOAT of mmreg.h
 constexpr int SampleBits = 32;

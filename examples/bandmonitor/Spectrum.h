@@ -16,7 +16,6 @@ struct struSpectrum
     double time = 0;           ///< middle of the stretch, in seconds
 
     double frequency(double bin) const { return firstFrequency + bin * binWidth; }
-    double lastFrequency() const { return frequency(double(power.size()) - 1); }
 };
 
 /** A power in dBFS, and back. Silence has -200 dBFS. */

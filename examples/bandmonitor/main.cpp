@@ -213,6 +213,7 @@ QString instanceId(const CommandLine &commandLine)
 int run(bool bHeadless)
 {
     QCoreApplication::setApplicationName(QStringLiteral("Band Monitor"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(BANDMONITOR_VERSION));
     QCoreApplication::setOrganizationName(QStringLiteral("PYXRuntime"));
     PYXRuntime::PYXAppInternalsSimple internals;
     CommandLine commandLine;

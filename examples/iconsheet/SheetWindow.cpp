@@ -72,7 +72,7 @@ void SheetWindow::_sl_filterEdit_textChanged(const QString &a_text)
 {
     const QVector<struIconEntry> matching = filtered(m_entries, a_text);
     m_view->setEntries(matching);
-    m_countLabel->setText(tr("%n images", nullptr, matching.size()));
+    m_countLabel->setText(tr("Images: %1").arg(matching.size()));
 }
 
 void SheetWindow::_sl_groundBox_activated(int a_index)

@@ -5,7 +5,6 @@
 #include "PYXBoundSettingsWidget.h"
 
 class QCheckBox;
-class QLabel;
 
 namespace PYXRuntime {
 

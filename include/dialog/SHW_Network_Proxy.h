@@ -9,10 +9,8 @@ class QButtonGroup;
 class QComboBox;
 class QFormLayout;
 class QGroupBox;
-class QLabel;
 class QLineEdit;
 class QPushButton;
-class QRadioButton;
 class QSpinBox;
 
 namespace PYXRuntime {

@@ -344,9 +344,12 @@ bool PYXSettingsDialog::_discard()
     box->setDefaultButton(QMessageBox::No);
     if (answerOf(box) != QMessageBox::Yes)
         return false;
+    const QPointer<PYXSettingsDialog> self(this);
     const auto pages = guarded(_pagesInTreeOrder());
     for (const auto &page : pages) {
         if (!page.isNull() && !page->discardChanges())
+            return false;
+        if (self.isNull())
             return false;
     }
     m_bClosing = true;

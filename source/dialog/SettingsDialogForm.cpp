@@ -6,7 +6,6 @@
 #include "PYXSettingsHandlerWidget.h"
 #include "SettingsTree.h"
 
-#include <QtWidgets/QAction>
 #include <QtWidgets/QDialog>
 #include <QtWidgets/QFrame>
 #include <QtWidgets/QLabel>

@@ -167,6 +167,41 @@ Qt %2</translation>
     </message>
 </context>
 <context>
+    <name>BandMonitor::FileCommands</name>
+    <message>
+        <source>Recordings</source>
+        <translation>Aufnahmen</translation>
+    </message>
+    <message>
+        <source>Comma-separated tables</source>
+        <translation>Tabellen mit Trennzeichen</translation>
+    </message>
+    <message>
+        <source>Open Recording</source>
+        <translation>Aufnahme öffnen</translation>
+    </message>
+    <message>
+        <source>Open URL</source>
+        <translation>URL öffnen</translation>
+    </message>
+    <message>
+        <source>Address of the recording:</source>
+        <translation>Adresse der Aufnahme:</translation>
+    </message>
+    <message>
+        <source>This recording cannot be fetched.</source>
+        <translation>Diese Aufnahme kann nicht abgerufen werden.</translation>
+    </message>
+    <message>
+        <source>Save Signals</source>
+        <translation>Signale speichern</translation>
+    </message>
+    <message>
+        <source>The signals cannot be saved.</source>
+        <translation>Die Signale können nicht gespeichert werden.</translation>
+    </message>
+</context>
+<context>
     <name>BandMonitor::FileDock</name>
     <message>
         <source>Files</source>
@@ -226,6 +261,14 @@ Qt %2</translation>
     <message>
         <source>Begin</source>
         <translation>Beginn</translation>
+    </message>
+    <message>
+        <source>Detections</source>
+        <translation>Signale</translation>
+    </message>
+    <message>
+        <source>Snippets</source>
+        <translation>Ausschnitte</translation>
     </message>
 </context>
 <context>
@@ -348,14 +391,6 @@ Qt %2</translation>
         <translation>Es werden Signale aufgezeichnet. Aufzeichnung anhalten und beenden?</translation>
     </message>
     <message>
-        <source>Recordings</source>
-        <translation>Aufnahmen</translation>
-    </message>
-    <message>
-        <source>Comma-separated tables</source>
-        <translation>Tabellen mit Trennzeichen</translation>
-    </message>
-    <message>
         <source>This recording cannot be opened.</source>
         <translation>Diese Aufnahme kann nicht geöffnet werden.</translation>
     </message>
@@ -366,30 +401,6 @@ Qt %2</translation>
     <message>
         <source>Detections cannot be recorded.</source>
         <translation>Die Signale können nicht aufgezeichnet werden.</translation>
-    </message>
-    <message>
-        <source>Open Recording</source>
-        <translation>Aufnahme öffnen</translation>
-    </message>
-    <message>
-        <source>Open URL</source>
-        <translation>URL öffnen</translation>
-    </message>
-    <message>
-        <source>Address of the recording:</source>
-        <translation>Adresse der Aufnahme:</translation>
-    </message>
-    <message>
-        <source>This recording cannot be fetched.</source>
-        <translation>Diese Aufnahme kann nicht abgerufen werden.</translation>
-    </message>
-    <message>
-        <source>Save Signals</source>
-        <translation>Signale speichern</translation>
-    </message>
-    <message>
-        <source>The signals cannot be saved.</source>
-        <translation>Die Signale können nicht gespeichert werden.</translation>
     </message>
 </context>
 <context>

@@ -167,6 +167,41 @@ Qt %2</translation>
     </message>
 </context>
 <context>
+    <name>BandMonitor::FileCommands</name>
+    <message>
+        <source>Recordings</source>
+        <translation>Enregistrements</translation>
+    </message>
+    <message>
+        <source>Comma-separated tables</source>
+        <translation>Tableaux séparés par des virgules</translation>
+    </message>
+    <message>
+        <source>Open Recording</source>
+        <translation>Ouvrir un enregistrement</translation>
+    </message>
+    <message>
+        <source>Open URL</source>
+        <translation>Ouvrir une URL</translation>
+    </message>
+    <message>
+        <source>Address of the recording:</source>
+        <translation>Adresse de l’enregistrement&#xa0;:</translation>
+    </message>
+    <message>
+        <source>This recording cannot be fetched.</source>
+        <translation>Cet enregistrement ne peut pas être téléchargé.</translation>
+    </message>
+    <message>
+        <source>Save Signals</source>
+        <translation>Enregistrer les signaux</translation>
+    </message>
+    <message>
+        <source>The signals cannot be saved.</source>
+        <translation>Les signaux ne peuvent pas être enregistrés.</translation>
+    </message>
+</context>
+<context>
     <name>BandMonitor::FileDock</name>
     <message>
         <source>Files</source>
@@ -226,6 +261,14 @@ Qt %2</translation>
     <message>
         <source>Begin</source>
         <translation>Début</translation>
+    </message>
+    <message>
+        <source>Detections</source>
+        <translation>Détections</translation>
+    </message>
+    <message>
+        <source>Snippets</source>
+        <translation>Extraits</translation>
     </message>
 </context>
 <context>
@@ -348,14 +391,6 @@ Qt %2</translation>
         <translation>Des détections sont en cours d’enregistrement. Arrêter et quitter&#x202f;?</translation>
     </message>
     <message>
-        <source>Recordings</source>
-        <translation>Enregistrements</translation>
-    </message>
-    <message>
-        <source>Comma-separated tables</source>
-        <translation>Tableaux séparés par des virgules</translation>
-    </message>
-    <message>
         <source>This recording cannot be opened.</source>
         <translation>Cet enregistrement ne peut pas être ouvert.</translation>
     </message>
@@ -366,30 +401,6 @@ Qt %2</translation>
     <message>
         <source>Detections cannot be recorded.</source>
         <translation>Les détections ne peuvent pas être enregistrées.</translation>
-    </message>
-    <message>
-        <source>Open Recording</source>
-        <translation>Ouvrir un enregistrement</translation>
-    </message>
-    <message>
-        <source>Open URL</source>
-        <translation>Ouvrir une URL</translation>
-    </message>
-    <message>
-        <source>Address of the recording:</source>
-        <translation>Adresse de l’enregistrement&#xa0;:</translation>
-    </message>
-    <message>
-        <source>This recording cannot be fetched.</source>
-        <translation>Cet enregistrement ne peut pas être téléchargé.</translation>
-    </message>
-    <message>
-        <source>Save Signals</source>
-        <translation>Enregistrer les signaux</translation>
-    </message>
-    <message>
-        <source>The signals cannot be saved.</source>
-        <translation>Les signaux ne peuvent pas être enregistrés.</translation>
     </message>
 </context>
 <context>

@@ -51,6 +51,7 @@ LiveTable::~LiveTable() = default;
 void LiveTable::setTexts(const QStringList &headers, const QString &accessibleName)
 {
     m_model->setHeaders(headers);
+    m_bSized = false; // for headings of another width
     m_view->setAccessibleName(accessibleName);
     m_filter->setPlaceholderText(tr("Filter"));
     m_filter->setAccessibleName(tr("Filter the table"));

@@ -9,7 +9,6 @@
 
 #include <functional>
 
-class QLabel;
 class QLineEdit;
 class QSortFilterProxyModel;
 class QTableView;
@@ -44,8 +43,6 @@ public:
     void setTexts(const QStringList &headers, const QString &accessibleName);
     /** Asks now. */
     void refresh();
-
-    QTableView *view() const { return m_view; }
 
 Q_SIGNALS:
     void si_checked(const QString &a_firstCell, int a_column, bool a_checked);
