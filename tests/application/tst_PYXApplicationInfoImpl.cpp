@@ -3,6 +3,7 @@
 #include "PYXApplicationInfoImpl.h"
 
 #include "ChildProcess.h"
+#include "FileContents.h"
 #include "PlatformFolders.h"
 #include "PYXBrokerRegistration.h"
 #include "PYXSettings.h"
@@ -51,7 +52,6 @@ private slots:
     void pathsOnThePortableDrive();
     void settingsFollowTheirDirectories();
     void laterDefaultFormatIsPointedToo();
-    void switchesRecompute();
     void sharedPathsComeFromTheSettings();
     void overriddenPathsMoveWhatIsBelow();
     void createsAndRemembersDirectories();
@@ -241,8 +241,7 @@ void tst_PYXApplicationInfoImpl::markedProgramIsPortable()
 {
     m_program = m_home->path("App/bin");
     QVERIFY(QDir().mkpath(m_program));
-    QFile marker(m_home->path("App/portable"));
-    QVERIFY(marker.open(QIODevice::WriteOnly));
+    put(m_home->path("App/portable"), {});
     Info info;
     info.setInitializeSettingsPaths(false);
     QVERIFY(info.isRunningFromPortableDevice());
@@ -251,7 +250,7 @@ void tst_PYXApplicationInfoImpl::markedProgramIsPortable()
              (bLetters ? "/portable" : m_home->path("App/portable-data")) + "/Personal/AppData/Local");
     info.setSpecialDirCompatibilityMode(true);
     QCOMPARE(pathOf(info, Info::eSystemUserLocalAppData), m_home->path("App/portable-data/Local Data"));
-    QVERIFY(marker.remove());
+    QVERIFY(QFile::remove(m_home->path("App/portable")));
     info.setSpecialDirCompatibilityMode(false);
     QVERIFY(!info.isRunningFromPortableDevice());
     QCOMPARE(pathOf(info, Info::eSystemUserLocalAppData), expanded("{28}"));
@@ -327,23 +326,6 @@ void tst_PYXApplicationInfoImpl::laterDefaultFormatIsPointedToo()
     QVERIFY(PYXSettings(PYXSettings::eUserSharedSettings).fileName().startsWith(expanded("{28}")));
 }
 
-void tst_PYXApplicationInfoImpl::switchesRecompute()
-{
-    Info info;
-    QVERIFY(info.needsInitialize());
-    info.ensureInitialized();
-    QVERIFY(!info.needsInitialize());
-    m_program = "D:/Elsewhere";
-    QCOMPARE(pathOf(info, Info::eApplicationBaseDir), QString("C:/Prog/App"));
-    info.setSpecialDirCompatibilityMode(false);
-    QVERIFY(!info.needsInitialize());
-    info.setInitializeSettingsPaths(false); // the same value, but set for the first time
-    QVERIFY(info.needsInitialize());
-    QCOMPARE(pathOf(info, Info::eApplicationBaseDir), QString("D:/Elsewhere"));
-    info.setSpecialDirCompatibilityMode(true);
-    QVERIFY(info.needsInitialize());
-}
-
 void tst_PYXApplicationInfoImpl::sharedPathsComeFromTheSettings()
 {
     Info info;
@@ -369,8 +351,7 @@ void tst_PYXApplicationInfoImpl::sharedPathsComeFromTheSettings()
 
     // Where they cannot be written, nothing is said in the trace.
     m_home.reset(new SettingsHome);
-    QFile obstacle(m_home->path("system"));
-    QVERIFY(obstacle.open(QIODevice::WriteOnly));
+    put(m_home->path("system"), {});
     const QStringList traces = tracesOf([] { Info().getSpecialDirPath(26, false); });
     QCOMPARE(traces, QStringList());
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "PYXFileFilter.h"
 
+#include "FileContents.h"
 #include "PlatformFolders.h"
 #include "PYXApplicationInfoImpl.h"
 #include "PYXBrokerRegistration.h"
@@ -54,8 +55,8 @@ private:
     QString createdFile(const QString &name) const
     {
         QDir().mkpath(QFileInfo(path(name)).path());
-        QFile file(path(name));
-        return file.open(QIODevice::WriteOnly) ? file.fileName() : QString();
+        put(path(name), {});
+        return path(name);
     }
 
     QScopedPointer<SettingsHome> m_home;

@@ -1,18 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The PYXRuntime developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
+#include "DataRows.h"
+#include "FileContents.h"
 #include "PYXBroker.h"
 #include "PYXHelpConnectorImpl.h"
 #include "PYXTransConnectorImpl.h"
 #include "QmBytes.h"
 #include "RecordingTracer.h"
 
-#include <QtCore/QTemporaryDir>
-#include <QtGui/QDesktopServices>
 #include <QtTest/QtTest>
-#include <QtWidgets/QAction>
-#include <QtWidgets/QApplication>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QVBoxLayout>
+#include <QtWidgets/QtWidgets>
 
 using namespace PYXRuntime;
 
@@ -27,21 +24,14 @@ public slots:
 private slots:
     void init();
     void cleanup();
-    void f1OpensThePageOfTheFocus_data();
     void f1OpensThePageOfTheFocus();
     void actionsAskByName();
     void leavesTheKeyToOthers();
-    void missingAndDamagedFiles_data();
     void missingAndDamagedFiles();
     void followsTheLanguage();
 
 private:
-    void write(const QString &name, const QByteArray &content)
-    {
-        QFile file(m_directory->filePath(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(content);
-    }
+    void write(const QString &name, const QByteArray &content) { put(m_directory->filePath(name), content); }
     QString openedNow()
     {
         QString opened = m_opened.join(',');
@@ -79,53 +69,31 @@ void tst_PYXHelpConnectorImpl::cleanup()
     m_opened.clear();
 }
 
-void tst_PYXHelpConnectorImpl::f1OpensThePageOfTheFocus_data()
-{
-    QTest::addColumn<QString>("window");
-    QTest::addColumn<QString>("edit");
-    QTest::addColumn<QString>("property");
-    QTest::addColumn<QString>("page");
-    QTest::newRow("own name") << "MainWindow"
-                              << "Frequency"
-                              << ""
-                              << "edit.html";
-    QTest::newRow("property before name") << "MainWindow"
-                                          << "MainWindow"
-                                          << "Frequency"
-                                          << "edit.html";
-    QTest::newRow("the window's") << "MainWindow"
-                                  << "other"
-                                  << ""
-                                  << "window.html#top";
-    QTest::newRow("start page") << "Other"
-                                << "other"
-                                << ""
-                                << "index.html";
-    QTest::newRow("page is gone") << "MainWindow"
-                                  << "Lost"
-                                  << ""
-                                  << "index.html";
-}
-
 void tst_PYXHelpConnectorImpl::f1OpensThePageOfTheFocus()
 {
-    QFETCH(QString, window);
-    QFETCH(QString, edit);
-    QFETCH(QString, property);
-    QWidget widget;
-    widget.setObjectName(window);
-    auto *const line = new QLineEdit(&widget);
-    line->setObjectName(edit);
-    line->setProperty(PYXHelpConnectorImpl::ContextProperty, property);
-    widget.show();
-    QApplication::setActiveWindow(&widget);
-    line->setFocus();
-    QCOMPARE(QApplication::focusWidget(), line);
-    const QStringList traces = tracesOf([&] { QTest::keyClick(line, Qt::Key_F1); });
-    QTEST(openedNow(), "page");
-    QCOMPARE(traces.size(), m_help->hasHelp(edit) || m_help->hasHelp(window) ? int(edit == "Lost") : 1);
-    QTest::keyClick(line, Qt::Key_F1, Qt::ShiftModifier);
-    QCOMPARE(openedNow(), QString());
+    // Names of the window and of the edit, its property, the page, whether it is traced.
+    const Rows<QString, QString, QString, QString, bool> rows = {
+        {"own name", "MainWindow", "Frequency", "", "edit.html", false},
+        {"property before name", "MainWindow", "MainWindow", "Frequency", "edit.html", false},
+        {"the window's", "MainWindow", "other", "", "window.html#top", false},
+        {"start page", "Other", "other", "", "index.html", true},
+        {"page is gone", "MainWindow", "Lost", "", "index.html", true}};
+    forRows(rows, [this](const QString &window, const QString &edit, const QString &property,
+                         const QString &page, bool bTraced) {
+        QWidget widget;
+        widget.setObjectName(window);
+        auto *const line = new QLineEdit(&widget);
+        line->setObjectName(edit);
+        line->setProperty(PYXHelpConnectorImpl::ContextProperty, property);
+        widget.show();
+        QApplication::setActiveWindow(&widget);
+        line->setFocus();
+        QCOMPARE(QApplication::focusWidget(), line);
+        QCOMPARE(tracesOf([&] { QTest::keyClick(line, Qt::Key_F1); }).size(), bTraced ? 1 : 0);
+        QCOMPARE(openedNow(), page);
+        QTest::keyClick(line, Qt::Key_F1, Qt::ShiftModifier);
+        QCOMPARE(openedNow(), QString());
+    });
 }
 
 void tst_PYXHelpConnectorImpl::actionsAskByName()
@@ -163,36 +131,32 @@ void tst_PYXHelpConnectorImpl::leavesTheKeyToOthers()
     QCOMPARE(tracesOf([&] { QTest::keyClick(&line, Qt::Key_F1); }), QStringList());
 }
 
-void tst_PYXHelpConnectorImpl::missingAndDamagedFiles_data()
-{
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("complaint");
-    QTest::newRow("missing") << QByteArray() << "Cannot open help-entry file \"";
-    QTest::newRow("empty") << QByteArray("") << "Cannot read help-entry file \"";
-    QTest::newRow("cut off") << QByteArray(
-                                    "<HelpEntries start='index.html'><Entry context='A' page='index.html'/>")
-                             << "Cannot read help-entry file \"";
-    QTest::newRow("something else") << QByteArray("<html/>") << "Cannot read help-entry file \"";
-    QTest::newRow("no context") << QByteArray("<HelpEntries><Entry page='index.html'/></HelpEntries>")
-                                << "Help entry in line 1 has no context or no page.";
-}
-
 void tst_PYXHelpConnectorImpl::missingAndDamagedFiles()
 {
-    QFETCH(QByteArray, content);
-    QFETCH(QString, complaint);
-    if (!content.isNull())
-        write("bad.xml", content);
-    m_help->setHelpEntryFile(m_directory->filePath("bad.xml"));
-    const QStringList traces = tracesOf([&] {
-        QVERIFY(!m_help->hasHelp("A"));
-        QVERIFY(!m_help->showHelp("A")); // does not complain about the file again
+    const QString cannotRead = "Cannot read help-entry file \"";
+    const Rows<QByteArray, QString> rows = {
+        {"missing", QByteArray(), "Cannot open help-entry file \""},
+        {"empty", "", cannotRead},
+        {"cut off", "<HelpEntries start='index.html'><Entry context='A' page='index.html'/>", cannotRead},
+        {"something else", "<html/>", cannotRead},
+        {"no context", "<HelpEntries><Entry page='index.html'/></HelpEntries>",
+         "Help entry in line 1 has no context or no page."}};
+    forRows(rows, [this](const QByteArray &content, const QString &complaint) {
+        m_help->setHelpEntryFile(QString());
+        QVERIFY(!m_help->hasHelp("A")); // nor is anything left of the file before
+        if (!content.isNull())
+            write("bad.xml", content);
+        m_help->setHelpEntryFile(m_directory->filePath("bad.xml"));
+        const QStringList traces = tracesOf([&] {
+            QVERIFY(!m_help->hasHelp("A"));
+            QVERIFY(!m_help->showHelp("A")); // does not complain about the file again
+        });
+        QCOMPARE(traces.size(), 2);
+        QVERIFY2(traces.at(0).startsWith("Warn|" + complaint), qPrintable(traces.at(0)));
+        QVERIFY(traces.at(1).startsWith(
+            "Warn|There is no help page for \"A\", and no start page|source\\PYXHelp"));
+        QCOMPARE(openedNow(), QString());
     });
-    QCOMPARE(traces.size(), 2);
-    QVERIFY2(traces.at(0).startsWith("Warn|" + complaint), qPrintable(traces.at(0)));
-    QVERIFY(
-        traces.at(1).startsWith("Warn|There is no help page for \"A\", and no start page|source\\PYXHelp"));
-    QCOMPARE(openedNow(), QString());
 }
 
 void tst_PYXHelpConnectorImpl::followsTheLanguage()

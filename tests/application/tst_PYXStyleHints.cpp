@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PYXRuntime developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "ContrastColor.h"
+#include "DataRows.h"
 #include "PYXStyleHints.h"
 
 #include <QtGui/QFontDatabase>
@@ -8,7 +9,6 @@
 #include <QtGui/QPalette>
 #include <QtTest/QtTest>
 #include <QtWidgets/QApplication>
-#include <QtWidgets/QStyle>
 
 using namespace PYXRuntime;
 
@@ -25,10 +25,8 @@ class tst_PYXStyleHints : public QObject
     Q_OBJECT
 private slots:
     void contrastIsThatOfTheGuidelines();
-    void coloursCanBeRead_data();
     void coloursCanBeRead();
     void followsPaletteAndFont();
-    void asksTheStyle();
 };
 
 void tst_PYXStyleHints::contrastIsThatOfTheGuidelines()
@@ -39,36 +37,29 @@ void tst_PYXStyleHints::contrastIsThatOfTheGuidelines()
     QVERIFY(qAbs(contrastRatio(Qt::white, QColor("#767676")) - 4.54) < 0.005);
 }
 
-void tst_PYXStyleHints::coloursCanBeRead_data()
-{
-    QTest::addColumn<QColor>("window");
-    QTest::addColumn<QColor>("base");
-    QTest::addColumn<bool>("bDark");
-    QTest::newRow("white") << QColor(Qt::white) << QColor(Qt::white) << false;
-    QTest::newRow("usual light") << QColor("#efefef") << QColor(Qt::white) << false;
-    QTest::newRow("usual dark") << QColor("#353535") << QColor("#232323") << true;
-    QTest::newRow("black") << QColor(Qt::black) << QColor(Qt::black) << true;
-    QTest::newRow("coloured") << QColor("#fff3c4") << QColor("#ffe08a") << false;
-}
-
 void tst_PYXStyleHints::coloursCanBeRead()
 {
-    QFETCH(QColor, window);
-    QFETCH(QColor, base);
-    QPalette palette;
-    palette.setColor(QPalette::Window, window);
-    palette.setColor(QPalette::Base, base);
-    QApplication::setPalette(palette);
-    QTEST(PYXStyleHints::staticIsDark(), "bDark");
-    QSet<QRgb> colours;
-    for (const auto meaning : Meanings) {
-        const QColor colour = PYXStyleHints::staticColor(meaning);
-        QVERIFY2(contrastRatio(colour, window) >= 4.5 && contrastRatio(colour, base) >= 4.5,
-                 qPrintable(colour.name()));
-        QVERIFY(colour.hslSaturation() > 100); // neither black nor white
-        colours += colour.rgb();
-    }
-    QCOMPARE(colours.size(), 4);
+    const Rows<QColor, QColor, bool> rows = {{"white", Qt::white, Qt::white, false},
+                                             {"usual light", "#efefef", Qt::white, false},
+                                             {"usual dark", "#353535", "#232323", true},
+                                             {"black", Qt::black, Qt::black, true},
+                                             {"coloured", "#fff3c4", "#ffe08a", false}};
+    forRows(rows, [](const QColor &window, const QColor &base, bool bDark) {
+        QPalette palette;
+        palette.setColor(QPalette::Window, window);
+        palette.setColor(QPalette::Base, base);
+        QApplication::setPalette(palette);
+        QCOMPARE(PYXStyleHints::staticIsDark(), bDark);
+        QSet<QRgb> colours;
+        for (const auto meaning : Meanings) {
+            const QColor colour = PYXStyleHints::staticColor(meaning);
+            QVERIFY2(contrastRatio(colour, window) >= 4.5 && contrastRatio(colour, base) >= 4.5,
+                     qPrintable(colour.name()));
+            QVERIFY(colour.hslSaturation() > 100); // neither black nor white
+            colours += colour.rgb();
+        }
+        QCOMPARE(colours.size(), 4);
+    });
 }
 
 void tst_PYXStyleHints::followsPaletteAndFont()
@@ -95,19 +86,6 @@ void tst_PYXStyleHints::followsPaletteAndFont()
         QVERIFY(qMin(contrastRatio(colour, Qt::black), contrastRatio(colour, Qt::white)) > 4.0);
     }
     PYXStyleHints::destroyInstance();
-}
-
-void tst_PYXStyleHints::asksTheStyle()
-{
-    const QStyle &style = *QApplication::style();
-    QCOMPARE(PYXStyleHints::staticIconSize(PYXStyleHints::ekIconSize_Small).width(),
-             style.pixelMetric(QStyle::PM_SmallIconSize));
-    QCOMPARE(PYXStyleHints::staticIconSize(PYXStyleHints::ekIconSize_ToolBar).height(),
-             style.pixelMetric(QStyle::PM_ToolBarIconSize));
-    QCOMPARE(PYXStyleHints::staticIconSize(PYXStyleHints::ekIconSize_Large).width(),
-             style.pixelMetric(QStyle::PM_LargeIconSize));
-    QCOMPARE(PYXStyleHints::staticWindowMargins().left(), style.pixelMetric(QStyle::PM_LayoutLeftMargin));
-    QVERIFY(PYXStyleHints::staticSpacing() > 0);
 }
 
 QTEST_MAIN(tst_PYXStyleHints)

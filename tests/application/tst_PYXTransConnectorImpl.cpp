@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The PYXRuntime developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
+#include "DataRows.h"
 #include "IStringPoolPopulator.h"
 #include "PYXBroker.h"
 #include "PYXStringPool.h"
@@ -8,8 +9,6 @@
 #include "QmBytes.h"
 #include "RecordingTracer.h"
 
-#include <QtCore/QResource>
-#include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 #include <QtWidgets/QApplication>
 #include <QtWidgets/QWidget>
@@ -108,7 +107,6 @@ private slots:
     void modulesInResources();
     void nobodySeesAMixture();
     void everyChangeIsAnnouncedOnce();
-    void mergedQtTexts();
 
 private:
     void writeFiles(const QString &locale,
@@ -162,37 +160,19 @@ void tst_PYXTransConnectorImpl::findsItsDirectory()
 void tst_PYXTransConnectorImpl::changes_data()
 {
     const QByteArrayList all{"Viewer", "qt", "PYXPlugin", "PYXExtra"};
-    const auto without = [all](const char *stem) {
-        QByteArrayList rest = all;
-        rest.removeAll(stem);
-        return rest;
-    };
-    QTest::addColumn<QByteArrayList>("files");
-    QTest::addColumn<QString>("locale");
-    QTest::addColumn<QString>("errors");
-    QTest::addColumn<QString>("reached"); // locale and number of signals, from English
-    QTest::newRow("all there") << all << "de"
-                               << ""
-                               << "de 1";
-    QTest::newRow("English without files") << QByteArrayList() << "en"
-                                           << ""
-                                           << "en 1";
-    QTest::newRow("by the language of a country") << all << "de_AT"
-                                                  << ""
-                                                  << "de_AT 1";
-    QTest::newRow("no application's") << without("Viewer") << "de"
-                                      << "Cannot load the application's translation file for locale \"de\"."
-                                      << "en 0";
-    QTest::newRow("no Qt's") << without("qt") << "de"
-                             << "Cannot load Qt's translation file for locale \"de\"."
-                             << "en 0";
-    QTest::newRow("no required module's")
-        << without("PYXPlugin") << "de"
-        << "Cannot load translation file for module \"PYXPlugin\" and locale \"de\"."
-        << "en 1";
-    QTest::newRow("no optional module's") << without("PYXExtra") << "de"
-                                          << ""
-                                          << "de 1";
+    const auto without = [&all](int file) { return all.mid(0, file) + all.mid(file + 1); };
+    // What cannot be loaded; what is reached from English: the locale and the number of signals.
+    const Rows<QByteArrayList, QString, QString, QString> rows = {
+        {"all there", all, "de", "", "de 1"},
+        {"English without files", {}, "en", "", "en 1"},
+        {"by the language of a country", all, "de_AT", "", "de_AT 1"},
+        {"no application's", without(0), "de", "the application's translation file for locale \"de\".",
+         "en 0"},
+        {"no Qt's", without(1), "de", "Qt's translation file for locale \"de\".", "en 0"},
+        {"no required module's", without(2), "de",
+         "translation file for module \"PYXPlugin\" and locale \"de\".", "en 1"},
+        {"no optional module's", without(3), "de", "", "de 1"}};
+    addRows({"files", "locale", "errors", "reached"}, rows);
 }
 
 void tst_PYXTransConnectorImpl::changes()
@@ -209,7 +189,7 @@ void tst_PYXTransConnectorImpl::changes()
         QSignalSpy spy(m_connector, &PYXTransConnectorImpl::si_localeChanged);
         const QStringList traces = tracesOf([&] { QCOMPARE(m_connector->changeLocale(locale), bSucceeds); });
         QCOMPARE(traces.join('\n').section('|', 0, 2),
-                 bSucceeds ? QString() : "Error|" + errors + "|source\\PYXTransConnectorImpl");
+                 bSucceeds ? QString() : "Error|Cannot load " + errors + "|source\\PYXTransConnectorImpl");
         const int signalCount = previous == "fr" ? 1 : reached.section(' ', 1).toInt();
         QCOMPARE(m_connector->getLocaleName() + ' ' + QString::number(spy.size()),
                  reached.section(' ', 0, 0) + ' ' + QString::number(signalCount));
@@ -339,29 +319,6 @@ void tst_PYXTransConnectorImpl::everyChangeIsAnnouncedOnce()
     QVERIFY(m_connector->changeLocale("de"));
     QVERIFY(!PYXTransConnectorImpl::hasInstance());
     QCOMPARE(languagesNow() - QSet<QString>{"de"}, QSet<QString>{"en"});
-}
-
-void tst_PYXTransConnectorImpl::mergedQtTexts()
-{
-    m_connector->unregisterModuleByName("PYXPlugin");
-    const QDir built(QCoreApplication::applicationDirPath() + "/translations");
-    for (const QString locale : {"de", "fr"}) {
-        writeFiles(locale, {"Viewer"});
-        for (const QString stem : {"qt_", "PYXRuntime_"})
-            QVERIFY(QFile::copy(built.filePath(stem + locale + ".qm"),
-                                m_directory->filePath(stem + locale + ".qm")));
-    }
-    QStringList names;
-    const auto locales = m_connector->getSupportedLocales();
-    for (const auto &locale : locales) {
-        QVERIFY(m_connector->changeLocale(locale.localeName));
-        names += locale.displayName + '=' + QCoreApplication::translate("QPlatformTheme", "Cancel") + '/' +
-                 QCoreApplication::translate("PYXRuntime::PYXCountingFileSet",
-                                             "%n byte(s) could not be written.", nullptr, 1);
-    }
-    QCOMPARE(names, (QStringList{"English=Cancel/1 byte(s) could not be written.",
-                                 "Deutsch=Abbrechen/1 Byte konnte nicht geschrieben werden.",
-                                 "Français=Annuler/1 octet n’a pas pu être écrit."}));
 }
 
 QTEST_MAIN(tst_PYXTransConnectorImpl)

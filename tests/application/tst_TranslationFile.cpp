@@ -4,8 +4,6 @@
 #include "QmFile.h"
 #include "TranslationFile.h"
 
-#include <QtCore/QRandomGenerator>
-#include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 
 using namespace PYXRuntime;
@@ -56,52 +54,49 @@ class tst_TranslationFile : public QObject
 {
     Q_OBJECT
 private slots:
-    void findsFilesAsQtDoes_data();
     void findsFilesAsQtDoes();
     void agreesWithQt();
     void damagedFiles();
-    void lyingFiles_data();
     void lyingFiles();
     void dependencies();
     void survivesItsFile();
 };
 
-void tst_TranslationFile::findsFilesAsQtDoes_data()
-{
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("locale");
-    for (const QString file : {"S_de.qm", "S_de", "S_de_AT.qm", "S.qm", "S", "S_fr.qm", "S_de.qm.qm"}) {
-        for (const QString locale : {"de", "de_AT", "de.x", "", "../S_de"})
-            QTest::newRow(qPrintable(file + " for " + locale)) << file << locale;
-    }
-}
-
 void tst_TranslationFile::findsFilesAsQtDoes()
 {
-    QFETCH(QString, file);
-    QFETCH(QString, locale);
-    const QTemporaryDir directory;
-    QmBytes content;
-    content.add("C", "s", "found");
-    content.write(directory.filePath(file));
-    QTranslator qt;
-    QCOMPARE(TranslationFile::open("S", locale, directory.path()) != nullptr,
-             qt.load("S_" + locale, directory.path()));
+    for (const QString file : {"S_de.qm", "S_de", "S_de_AT.qm", "S.qm", "S", "S_fr.qm", "S_de.qm.qm"}) {
+        const QTemporaryDir directory;
+        QmBytes content;
+        content.add("C", "s", "found");
+        content.write(directory.filePath(file));
+        for (const QString locale : {"de", "de_AT", "de.x", "", "../S_de"}) {
+            QTranslator qt;
+            QVERIFY2((TranslationFile::open("S", locale, directory.path()) != nullptr) ==
+                         qt.load("S_" + locale, directory.path()),
+                     qPrintable(file + " for " + locale));
+        }
+    }
 }
 
 void tst_TranslationFile::agreesWithQt()
 {
     const QDir built(QCoreApplication::applicationDirPath() + "/translations");
-    for (const QString stem : {"qt", "PYXRuntime"}) {
+    for (const QString file : {"qt de", "qt fr", "PYXRuntime de", "PYXRuntime fr"}) {
+        const QString stem = file.section(' ', 0, 0);
+        const QString locale = file.section(' ', 1);
         QTranslator qt;
-        QVERIFY(qt.load(stem + "_de", built.path()));
-        const auto ours = TranslationFile::open(stem, "de", built.path());
+        QVERIFY(qt.load(stem + '_' + locale, built.path()));
+        const auto ours = TranslationFile::open(stem, locale, built.path());
         QVERIFY(ours != nullptr && !ours->isEmpty());
         for (const char *source : {"Cancel", "%n byte(s) could not be written.", "Gone"}) {
             for (const char *context : {"QPlatformTheme", "PYXRuntime::PYXCountingFileSet"})
                 QCOMPARE(ours->translate(context, source, nullptr, 2),
                          qt.translate(context, source, nullptr, 2));
         }
+        const bool bQt = stem == "qt";
+        QVERIFY(!ours->translate(bQt ? "QPlatformTheme" : "PYXRuntime::PYXCountingFileSet",
+                                 bQt ? "Cancel" : "%n byte(s) could not be written.", nullptr, 1)
+                     .isEmpty());
     }
 }
 
@@ -134,38 +129,31 @@ void tst_TranslationFile::damagedFiles()
     }
 }
 
-void tst_TranslationFile::lyingFiles_data()
-{
-    const QByteArray magic = sample().left(16);
-    const auto hashes = [](const char *offset) {
-        return QmBytes::section(0x42, QByteArray::fromHex("00000001") + QByteArray::fromHex(offset));
-    };
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("offset behind the messages")
-        << magic + hashes("00000100") + QmBytes::section(0x69, QByteArray(8, '\1'));
-    QTest::newRow("half a hash") << magic + QmBytes::section(0x42, QByteArray(5, '\0')) +
-                                        QmBytes::section(0x69, QByteArray(8, '\1'));
-    QTest::newRow("translation of 2 GiB")
-        << magic + hashes("00000000") + QmBytes::section(0x69, QByteArray::fromHex("037ffffffe0041"));
-    QTest::newRow("translation that leads back") // Qt would never come to its end
-        << magic + hashes("00000000") + QmBytes::section(0x69, QByteArray::fromHex("03fffffffb004101"));
-    QTest::newRow("message without end")
-        << magic + hashes("00000000") + QmBytes::section(0x69, QByteArray::fromHex("03000000020041"));
-    QTest::newRow("contexts in a table of none") << magic + QmBytes::section(0x2f, QByteArray(4, '\0'));
-    QTest::newRow("contexts without end")
-        << magic + QmBytes::section(0x2f, QByteArray::fromHex("00010001000007") + "Con");
-    QTest::newRow("a section twice") << magic + QmBytes::section(0xa7, "de") + QmBytes::section(0xa7, "de");
-    QByteArray many;
-    for (quint8 i = 0; i < 250; ++i) // every byte begins a message that goes to the end
-        many += QByteArray::fromHex("00000001000000") + char(i);
-    QTest::newRow("overlapping messages")
-        << magic + QmBytes::section(0x42, many) + QmBytes::section(0x69, QByteArray(1250, '\5') + '\1');
-}
-
 void tst_TranslationFile::lyingFiles()
 {
-    QFETCH(QByteArray, bytes);
-    QVERIFY(!checkedQmFile(bytes));
+    const QByteArray magic = sample().left(16);
+    const auto message = [&magic](const char *offset, const QByteArray &content) {
+        return magic + QmBytes::section(0x42, QByteArray::fromHex("00000001") + QByteArray::fromHex(offset)) +
+               QmBytes::section(0x69, content);
+    };
+    const auto hex = &QByteArray::fromHex;
+    QByteArray many;
+    for (quint8 i = 0; i < 250; ++i) // every byte begins a message that goes to the end
+        many += hex("00000001000000") + char(i);
+    const std::pair<const char *, QByteArray> files[] = {
+        {"offset behind the messages", message("00000100", QByteArray(8, '\1'))},
+        {"half a hash",
+         magic + QmBytes::section(0x42, "12345") + QmBytes::section(0x69, QByteArray(8, '\1'))},
+        {"translation of 2 GiB", message("00000000", hex("037ffffffe0041"))},
+        {"translation that leads back", message("00000000", hex("03fffffffb004101"))}, // Qt would never end
+        {"message without end", message("00000000", hex("03000000020041"))},
+        {"contexts in a table of none", magic + QmBytes::section(0x2f, QByteArray(4, '\0'))},
+        {"contexts without end", magic + QmBytes::section(0x2f, hex("00010001000007") + "Con")},
+        {"a section twice", magic + QmBytes::section(0xa7, "de") + QmBytes::section(0xa7, "de")},
+        {"overlapping messages",
+         magic + QmBytes::section(0x42, many) + QmBytes::section(0x69, QByteArray(1250, '\5') + '\1')}};
+    for (const auto &[name, bytes] : files)
+        QVERIFY2(!checkedQmFile(bytes), name);
 }
 
 void tst_TranslationFile::dependencies()

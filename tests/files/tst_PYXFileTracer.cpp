@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The PYXRuntime developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
+#include "FileContents.h"
 #include "PYXFileListImpl.h"
 #include "PYXFileTracer.h"
 #include "PYXRuntimeCenter.h"
@@ -23,10 +24,8 @@ QStringList lines(const QString &directory)
     QStringList found;
     const QDir dir(directory);
     for (const QString &name : dir.entryList(QDir::Files, QDir::Name)) {
-        QFile file(dir.filePath(name));
-        if (!file.open(QIODevice::ReadOnly | QIODevice::Text))
-            continue;
-        for (const QString &line : QString::fromUtf8(file.readAll()).split('\n', Qt::SkipEmptyParts)) {
+        const QString content = QString::fromUtf8(get(dir.filePath(name))).remove('\r');
+        for (const QString &line : content.split('\n', Qt::SkipEmptyParts)) {
             static const QRegularExpression time("^\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d\\.\\d{3} ");
             found += QString(line).remove(time);
         }

@@ -1,10 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The PYXRuntime developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "ChildProcess.h"
+#include "DataRows.h"
 #include "IconFolder.h"
 #include "PYXIconLoader.h"
-#include "PYXRuntimeCenter.h"
-#include "RecordingTracer.h"
 
 #include <QtGui/QPainter>
 #include <QtSvg/QSvgRenderer>
@@ -15,9 +14,6 @@
 #include <filesystem>
 
 using namespace PYXRuntime;
-
-Q_DECLARE_METATYPE(QIcon::Mode)
-Q_DECLARE_METATYPE(QIcon::State)
 
 namespace {
 
@@ -95,143 +91,110 @@ class tst_PYXIconLoader : public QObject
     Q_OBJECT
 private Q_SLOTS:
     void cleanup() { PYXIconLoader::destroyInstance(); }
-    void findsFilesByModeAndState_data();
     void findsFilesByModeAndState();
-    void tellsTheBaseNameItLooksFor_data();
     void tellsTheBaseNameItLooksFor();
-    void leavesOutWhatCannotBeRead_data();
     void leavesOutWhatCannotBeRead();
     void derivesModesAndSizesLikeQIcon();
-    void isSharpAtEveryRatio_data();
     void isSharpAtEveryRatio();
     void isEmptyWithoutScreens();
     void sizesOfDrawingsAreAbidedBy();
-    void animatedDrawingsStandStill();
     void loadsOneModeAndState();
     void keepsAndOverridesIcons();
     void noticesNewFiles();
-    void countsRequests();
     void survivesListeners();
     void showsTheIconOfAFile();
 };
 
-void tst_PYXIconLoader::findsFilesByModeAndState_data()
-{
-    QTest::addColumn<QString>("base");
-    QTest::addColumn<QStringList>("files");
-    QTest::addColumn<QStringList>("images");
-    QTest::addColumn<QString>("warning");
-    const QStringList none;
-    QTest::newRow("untagged file") << "save"
-                                   << QStringList{"save_normal_off.png", "save_disabled_off.png", "save.png"}
-                                   << QStringList{"normal off 16", "disabled off 16"}
-                                   << Ignored.arg("save.png");
-    QTest::newRow("folder, SVG") << "save" << QStringList{"normal_on/save.svg"}
-                                 << QStringList{"normal on 48", "normal on 32", "normal on 24",
-                                                "normal on 16"}
-                                 << "";
-    QTest::newRow("several images") << "save" << QStringList{"save_active_on.ico"}
-                                    << QStringList{"active on 16", "active on 32"} << "";
-    QTest::newRow("both places") << "save" << QStringList{"selected_off/save.png", "save_selected_off.png"}
-                                 << QStringList{"selected off 16", "selected off 16"} << "";
-    QTest::newRow("any order and case")
-        << "save" << QStringList{"save_OFF_32x32_Normal.png"} << QStringList{"normal off 16"} << "";
-    QTest::newRow("others beside it")
-        << "save" << QStringList{"save_normal_off.png", "save_all_normal_off.png", "saves.png"}
-        << QStringList{"normal off 16"} << "";
-    QTest::newRow("others in the folder")
-        << "save" << QStringList{"normal_off/save.png", "normal_off/save_all.png", "normal_off/Save.bmp"}
-        << QStringList{"normal off 16"} << "Unspecified files are ignored [Save.bmp, save_all.png]";
-    QTest::newRow("tags after dots") << "save" << QStringList{"save.disabled.on.png", "save_normal_on.png"}
-                                     << QStringList{"normal on 16"} << Ignored.arg("save.disabled.on.png");
-    QTest::newRow("path with tags") << "save_48x48_normal_off" << QStringList{"save_normal_off.png"}
-                                    << QStringList{"normal off 16"} << "";
-    QTest::newRow("word inside a name") << "print_selected_all" << QStringList{"print_all_normal_on.png"}
-                                        << QStringList{"normal on 16"} << "";
-    QTest::newRow("no wildcard") << "s[a]e" << QStringList{"sae_normal_off.png", "s[a]e_normal_off.png"}
-                                 << QStringList{"normal off 16"} << "";
-}
-
 void tst_PYXIconLoader::findsFilesByModeAndState()
 {
-    QFETCH(QString, base);
-    QFETCH(QStringList, files);
-    QFETCH(QStringList, images);
-    QFETCH(QString, warning);
-    IconFolder folder;
-    for (const QString &file : files)
-        folder.draw(file);
-    if (!warning.isEmpty())
-        expectWarning(warning);
-    PYXIconLoader loader;
-    QCOMPARE(imagesOf(loader, folder.path(base)), images);
-}
-
-void tst_PYXIconLoader::tellsTheBaseNameItLooksFor_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("baseName");
-    QTest::newRow("plain") << "save"
-                           << "save";
-    QTest::newRow("size, mode, state") << "save_32x32_normal_off.png"
-                                       << "save";
-    QTest::newRow("dots") << "save.disabled.on.svg"
-                          << "save";
-    QTest::newRow("dashes, capitals") << "save-16X16-Normal-ON"
-                                      << "save";
-    QTest::newRow("no tag without a separator") << "common32x32normal"
-                                                << "common32x32normal";
-    QTest::newRow("size cut short") << "save_32x"
-                                    << "save_32x";
-    QTest::newRow("tag that another one leaves") << "save_no_offrmal"
-                                                 << "save_normal";
-    QTest::newRow("only a tag") << "_normal_off"
-                                << "";
-    QTest::newRow("wildcard alone") << "*"
-                                    << "*";
-    QTest::newRow("placeholder") << "%2"
-                                 << "%2";
-    QTest::newRow("no Unicode") << QString(QChar(0xD800)) + "/save"
-                                << "save";
+    const QStringList one{"normal off 16"};
+    const QStringList svg{"normal on 48", "normal on 32", "normal on 24", "normal on 16"};
+    // The path, the files, the images found, the warning.
+    const Rows<QString, QStringList, QStringList, QString> rows = {
+        {"untagged file",
+         "save",
+         {"save_normal_off.png", "save_disabled_off.png", "save.png"},
+         {"normal off 16", "disabled off 16"},
+         Ignored.arg("save.png")},
+        {"folder, SVG", "save", {"normal_on/save.svg"}, svg, ""},
+        {"several images", "save", {"save_active_on.ico"}, {"active on 16", "active on 32"}, ""},
+        {"both places",
+         "save",
+         {"selected_off/save.png", "save_selected_off.png"},
+         {"selected off 16", "selected off 16"},
+         ""},
+        {"any order and case", "save", {"save_OFF_32x32_Normal.png"}, one, ""},
+        {"others beside it",
+         "save",
+         {"save_normal_off.png", "save_all_normal_off.png", "saves.png"},
+         one,
+         ""},
+        {"others in the folder",
+         "save",
+         {"normal_off/save.png", "normal_off/save_all.png", "normal_off/Save.bmp"},
+         one,
+         "Unspecified files are ignored [Save.bmp, save_all.png]"},
+        {"tags after dots",
+         "save",
+         {"save.disabled.on.png", "save_normal_on.png"},
+         {"normal on 16"},
+         Ignored.arg("save.disabled.on.png")},
+        {"path with tags", "save_48x48_normal_off", {"save_normal_off.png"}, one, ""},
+        {"word inside a name", "print_selected_all", {"print_all_normal_on.png"}, {"normal on 16"}, ""},
+        {"no wildcard", "s[a]e", {"sae_normal_off.png", "s[a]e_normal_off.png"}, one, ""}};
+    forRows(rows, [](const QString &base, const QStringList &files, const QStringList &images,
+                     const QString &warning) {
+        IconFolder folder;
+        for (const QString &file : files)
+            folder.draw(file);
+        if (!warning.isEmpty())
+            expectWarning(warning);
+        PYXIconLoader loader;
+        QCOMPARE(imagesOf(loader, folder.path(base)), images);
+    });
 }
 
 void tst_PYXIconLoader::tellsTheBaseNameItLooksFor()
 {
-    QFETCH(QString, name);
-    QFETCH(QString, baseName);
-    IconFolder folder;
-    folder.draw("_normal_off.png");
-    expectWarning(NotFound.arg(folder.path(name), baseName));
-    QVERIFY(PYXIconLoader().load(folder.path(name)).isNull());
-}
-
-void tst_PYXIconLoader::leavesOutWhatCannotBeRead_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("empty file") << "a_normal_off.png" << QByteArray();
-    QTest::newRow("cut short") << "a_normal_off.png" << IconFolder::png(16, Qt::red).left(40);
-    QTest::newRow("no SVG") << "a_normal_off.svg" << QByteArray("<html/>");
-    QTest::newRow("huge SVG")
-        << "a_normal_off.svg"
-        << QByteArray("<svg xmlns='http://www.w3.org/2000/svg'>").leftJustified(5'000'000) + "</svg>";
-    QTest::newRow("hollow ICO") << "a_normal_off.ico" << QByteArray("\0\0\1\0\xFF\xFF", 6);
-    QTest::newRow("huge picture") << "a_normal_off.pbm"
-                                  << QByteArray("P4 4096 4096 ") + QByteArray(4096 * 512, '\0');
+    const std::pair<QString, QString> names[] = {
+        {"save", "save"},
+        {"save_32x32_normal_off.png", "save"},
+        {"save.disabled.on.svg", "save"},
+        {"save-16X16-Normal-ON", "save"},
+        {"common32x32normal", "common32x32normal"}, // no tag without a separator
+        {"save_32x", "save_32x"},
+        {"save_no_offrmal", "save_normal"}, // a tag that another one leaves
+        {"_normal_off", ""},
+        {"*", "*"},
+        {"%2", "%2"},
+        {QString(QChar(0xD800)) + "/save", "save"}};
+    for (const auto &[name, baseName] : names) {
+        IconFolder folder;
+        folder.draw("_normal_off.png");
+        expectWarning(NotFound.arg(folder.path(name), baseName));
+        QVERIFY2(PYXIconLoader().load(folder.path(name)).isNull(), qUtf8Printable(name));
+    }
 }
 
 void tst_PYXIconLoader::leavesOutWhatCannotBeRead()
 {
-    QFETCH(QString, name);
-    QFETCH(QByteArray, bytes);
-    IconFolder folder;
-    folder.write(name, bytes);
-    PYXIconLoader loader;
-    expectWarning(NotFound.arg(folder.path("a"), "a"));
-    QVERIFY(loader.load(folder.path("a")).isNull());
-    folder.draw("a_disabled_on.png");
-    QCOMPARE(imagesOf(loader, folder.path("a")),
-             QStringList("disabled on 16")); // the empty icon was not kept
+    const Rows<QString, QByteArray> rows = {
+        {"empty file", "a_normal_off.png", QByteArray()},
+        {"cut short", "a_normal_off.png", IconFolder::png(16, Qt::red).left(40)},
+        {"no SVG", "a_normal_off.svg", "<html/>"},
+        {"huge SVG", "a_normal_off.svg",
+         QByteArray("<svg xmlns='http://www.w3.org/2000/svg'>").leftJustified(5'000'000) + "</svg>"},
+        {"hollow ICO", "a_normal_off.ico", QByteArray("\0\0\1\0\xFF\xFF", 6)},
+        {"huge picture", "a_normal_off.pbm", QByteArray("P4 4096 4096 ") + QByteArray(4096 * 512, '\0')}};
+    forRows(rows, [](const QString &name, const QByteArray &bytes) {
+        IconFolder folder;
+        folder.write(name, bytes);
+        PYXIconLoader loader;
+        expectWarning(NotFound.arg(folder.path("a"), "a"));
+        QVERIFY(loader.load(folder.path("a")).isNull());
+        folder.draw("a_disabled_on.png"); // the empty icon was not kept
+        QCOMPARE(imagesOf(loader, folder.path("a")), QStringList("disabled on 16"));
+    });
 }
 
 void tst_PYXIconLoader::derivesModesAndSizesLikeQIcon()
@@ -284,18 +247,10 @@ void tst_PYXIconLoader::derivesModesAndSizesLikeQIcon()
     }
 }
 
-void tst_PYXIconLoader::isSharpAtEveryRatio_data()
-{
-    QTest::addColumn<QString>("ratio");
-    for (const char *ratio : {"1", "1.25", "1.5", "2"})
-        QTest::newRow(ratio) << ratio;
-}
-
 void tst_PYXIconLoader::isSharpAtEveryRatio()
 {
-    QFETCH(QString, ratio);
-    const ChildResult result = runOwnProbe(ratio);
-    QCOMPARE(result.output.trimmed(), QString("blurred: 0"));
+    for (const char *ratio : {"1", "1.25", "1.5", "2"})
+        QCOMPARE(ratio + runOwnProbe(ratio).output.trimmed(), QString(ratio) + "blurred: 0");
 }
 
 void tst_PYXIconLoader::isEmptyWithoutScreens()
@@ -325,39 +280,10 @@ void tst_PYXIconLoader::sizesOfDrawingsAreAbidedBy()
     QCOMPARE(loader.sizesForSVGIcons(), PYXIconLoader::defaultSizesForSVGIcons());
 }
 
-void tst_PYXIconLoader::animatedDrawingsStandStill()
-{
-    struct TimerCounter : QObject
-    {
-        bool eventFilter(QObject *object, QEvent *event) override
-        {
-            const auto *const timer = qobject_cast<QTimer *>(object);
-            count += timer != nullptr && timer != &own && event->type() == QEvent::Timer ? 1 : 0;
-            return false;
-        }
-        QTimer own;
-        int count = 0;
-    };
-    IconFolder folder;
-    folder.write("a_normal_off.svg",
-                 "<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 9 9'><rect width='9' height='9'>"
-                 "<animateTransform attributeName='transform' type='rotate' from='0' to='360' dur='2s'/>"
-                 "</rect></svg>");
-    PYXIconLoader loader;
-    QVERIFY(!loader.load(folder.path("a")).isNull());
-    TimerCounter counter;
-    qApp->installEventFilter(&counter);
-    QSignalSpy later(&counter.own, &QTimer::timeout);
-    counter.own.start(150); // five frames
-    QVERIFY(later.wait());
-    QCOMPARE(counter.count, 0);
-}
-
 void tst_PYXIconLoader::loadsOneModeAndState()
 {
     IconFolder folder;
     folder.draw("a_normal_off.png", Qt::red);
-    folder.draw("a_disabled_off.png", Qt::green);
     folder.draw("a_disabled_on.png", Qt::blue);
     PYXIconLoader loader;
     const QString path = folder.path("a");
@@ -386,9 +312,6 @@ void tst_PYXIconLoader::keepsAndOverridesIcons()
     QVERIFY(PYXIconLoader::staticHasOverrideIcon(path));
     QVERIFY(PYXIconLoader::staticRemoveOverrideIcon(path).isNull());
     QVERIFY(!PYXIconLoader::staticLoad(path).isNull());
-    PYXIconLoader::destroyInstance();
-    QVERIFY(!PYXIconLoader::hasInstance());
-    QCOMPARE(PYXIconLoader::getInstance()->objectName(), QString("PYXIconLoader(defaultInstance)"));
 }
 
 void tst_PYXIconLoader::noticesNewFiles()
@@ -405,34 +328,6 @@ void tst_PYXIconLoader::noticesNewFiles()
     QCOMPARE(imagesOf(loader, folder.path("b")).size(), 1);
     folder.draw("c_normal_off.png"); // within the same moment, as the file system may see it
     QCOMPARE(imagesOf(loader, folder.path("c")).size(), 1);
-}
-
-void tst_PYXIconLoader::countsRequests()
-{
-    IconFolder folder;
-    folder.draw("a_normal_off.png");
-    folder.draw("b_normal_off.png");
-    PYXRuntimeCenter::setEnabled_pyxDebug("PYXIconLoader", true);
-    PYXRuntimeCenter::setEnabled_pyxDebugToTrace(true);
-    const QStringList traces = tracesOf([&] {
-        PYXIconLoader().setObjectName("nobody asks this one");
-        PYXIconLoader loader;
-        loader.load(folder.path("a"));
-        loader.clearCache();
-        for (int i = 0; i < 2; ++i)
-            loader.load(folder.path("b"));
-        loader.setOverrideIcon(folder.path("b"), {});
-        loader.load(folder.path("b"));
-        expectWarning(NotFound.arg(folder.path("c"), "c"));
-        loader.load(folder.path("c"));
-    });
-    PYXRuntimeCenter::setEnabled_pyxDebugToTrace(false);
-    QStringList texts;
-    for (const QString &trace : traces)
-        texts += trace.section('|', 1, 1);
-    QCOMPARE(texts, (QStringList{"PYXIconLoader (nobody asks this one) - no icons loaded",
-                                 "PYXIconLoader (PYXIconLoader) - Statistics", "3 - " + folder.path("b"),
-                                 "1 - " + folder.path("a")}));
 }
 
 void tst_PYXIconLoader::survivesListeners()

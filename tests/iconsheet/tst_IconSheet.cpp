@@ -4,12 +4,8 @@
 
 #include <PYXStandardIcons.h>
 
-#include <QtCore/QProcess>
-#include <QtCore/QTemporaryDir>
 #include <QtGui/QPainter>
 #include <QtTest/QtTest>
-
-#include <algorithm>
 
 using namespace IconSheet;
 using PYXRuntime::PYXStandardIcons;
@@ -42,18 +38,16 @@ class tst_IconSheet : public QObject
 
 private Q_SLOTS:
     void everyIconIsDrawnOnceOnly();
-    void specialIconsHaveAllSizes();
     void filterTakesAllWords();
     void programWritesTheSheet();
-    void programRefuses_data();
     void programRefuses();
 };
 
 void tst_IconSheet::everyIconIsDrawnOnceOnly()
 {
     // By intention alike: the logo is the application's icon too.
-    const QSet<QString> mayBeTwice{QStringLiteral("Misc_KuT_Logo"), QStringLiteral("Overlay_Eye_Interleaved"),
-                                   QStringLiteral("Overlay_Eye_Interleaved (on)")};
+    const QSet<QString> mayBeTwice{"Misc_KuT_Logo", "Overlay_Eye_Interleaved",
+                                   "Overlay_Eye_Interleaved (on)"};
     QVector<QImage> seen;
     for (const struIconEntry &entry : standardIconEntries()) {
         const QImage image = drawn(entry);
@@ -69,37 +63,23 @@ void tst_IconSheet::everyIconIsDrawnOnceOnly()
     QVERIFY(seen.size() > 180);
 }
 
-void tst_IconSheet::specialIconsHaveAllSizes()
-{
-    for (uint id : {PYXStandardIcons::ekIcon_IconInvisibleIcon, PYXStandardIcons::ekIcon_IconNotFoundIcon,
-                    PYXStandardIcons::ekIcon_IconNotRegisteredIcon}) {
-        QList<QSize> sizes = PYXStandardIcons::staticRegisteredIcon(id).availableSizes();
-        std::sort(sizes.begin(), sizes.end(),
-                  [](const QSize &a, const QSize &b) { return a.width() < b.width(); });
-        QCOMPARE(sizes, (QList<QSize>{{16, 16}, {24, 24}, {32, 32}, {48, 48}}));
-    }
-}
-
 void tst_IconSheet::filterTakesAllWords()
 {
-    const QVector<struIconEntry> matching = filtered(standardIconEntries(), QStringLiteral("SAVE column"));
+    const QVector<struIconEntry> matching = filtered(standardIconEntries(), "SAVE column");
     QStringList names;
     for (const struIconEntry &entry : matching)
         names += entry.name;
-    QCOMPARE(names,
-             (QStringList{QStringLiteral("Save_Column_Order"), QStringLiteral("Delete_Saved_Column_Order")}));
+    QCOMPARE(names, (QStringList{"Save_Column_Order", "Delete_Saved_Column_Order"}));
 }
 
 void tst_IconSheet::programWritesTheSheet()
 {
     const QTemporaryDir dir;
-    const QString path = dir.filePath(QStringLiteral("sheet.png"));
-    const QStringList arguments{QStringLiteral("--columns"), QStringLiteral("3"),
-                                QStringLiteral("--filter"),  QStringLiteral("Zoom"),
-                                QStringLiteral("--png"),     path};
+    const QString path = dir.filePath("sheet.png");
+    const QStringList arguments{"--columns", "3", "--filter", "Zoom", "--png", path};
     QCOMPARE(QProcess::execute(QStringLiteral(ICONSHEET_PROGRAM), arguments), 0);
     SheetPainter sheet;
-    const QVector<struIconEntry> entries = filtered(standardIconEntries(), QStringLiteral("Zoom"));
+    const QVector<struIconEntry> entries = filtered(standardIconEntries(), "Zoom");
     sheet.setEntries(entries);
     const QImage image(path);
     // The height depends on the font, which is the corporate one there.
@@ -115,20 +95,14 @@ void tst_IconSheet::programWritesTheSheet()
     QCOMPARE(image.copy(QRect(largest, expected.size())), expected);
 }
 
-void tst_IconSheet::programRefuses_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    const auto arguments = [](const char *text) { return QString::fromLatin1(text).split(QLatin1Char(' ')); };
-    QTest::newRow("a file that cannot be written") << arguments("--png /nowhere/at/all/sheet.png");
-    QTest::newRow("no columns") << arguments("--png unused.png --columns 0");
-    QTest::newRow("an unknown ground") << arguments("--png unused.png --ground green");
-}
-
 void tst_IconSheet::programRefuses()
 {
-    QFETCH(QStringList, arguments);
-    QCOMPARE(QProcess::execute(QStringLiteral(ICONSHEET_PROGRAM), arguments), 1);
-    QVERIFY(!QFile::exists(QStringLiteral("unused.png")));
+    // A file that cannot be written, no columns, an unknown ground.
+    for (const QString arguments : {"--png /nowhere/at/all/sheet.png", "--png unused.png --columns 0",
+                                    "--png unused.png --ground green"}) {
+        QCOMPARE(QProcess::execute(QStringLiteral(ICONSHEET_PROGRAM), arguments.split(' ')), 1);
+        QVERIFY2(!QFile::exists("unused.png"), qPrintable(arguments));
+    }
 }
 
 QTEST_MAIN(tst_IconSheet)

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The PYXRuntime developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
+#include "FileContents.h"
 #include "InstanceLock.h"
 
 #include <QtTest/QtTest>
@@ -11,7 +12,6 @@ class tst_InstanceLock : public QObject
     Q_OBJECT
 private Q_SLOTS:
     void belongsToOneAtATime();
-    void frees_data();
     void frees();
     void tellsWhereItCannotBe();
 };
@@ -32,34 +32,23 @@ void tst_InstanceLock::belongsToOneAtATime()
     QVERIFY(second.tryLock());
 }
 
-void tst_InstanceLock::frees_data()
-{
-    QTest::addColumn<bool>("bHasContent");
-    QTest::newRow("of a process whose number another one has") << true;
-    QTest::newRow("of a process that was killed before it wrote") << false;
-}
-
 void tst_InstanceLock::frees()
 {
-    QFETCH(bool, bHasContent);
     const QTemporaryDir directory;
     const QString path = directory.filePath("x.lock");
     QByteArray content;
-    if (bHasContent) {
-        // With the number of this process, which does not hold it.
+    {
+        // With the number of this process, which does not hold it: of a process whose number another one has.
         QLockFile lock(path);
         QVERIFY(lock.tryLock());
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        content = file.readAll();
+        content = get(path);
         QVERIFY(content.contains(QByteArray::number(QCoreApplication::applicationPid())));
     }
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    file.write(content);
-    file.close();
-    InstanceLock lock(directory.filePath("x"));
-    QTRY_VERIFY(lock.tryLock());
+    for (const QByteArray &left : {content, QByteArray()}) { // and of one that was killed before it wrote
+        put(path, left);
+        InstanceLock lock(directory.filePath("x"));
+        QTRY_VERIFY(lock.tryLock());
+    }
 }
 
 void tst_InstanceLock::tellsWhereItCannotBe()

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The PYXRuntime developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
+#include "DataRows.h"
 #include "InstanceMessage.h"
 #include "InstanceServer.h"
 #include "LocalPeer.h"
@@ -38,7 +39,6 @@ class tst_InstanceServer : public QObject
 private Q_SLOTS:
     void init();
     void cleanup() { m_server.reset(); }
-    void answersEveryMessage_data();
     void answersEveryMessage();
     void takesLongMessagesInPieces();
     void ignoresWhoLeavesEarly();
@@ -71,34 +71,30 @@ void tst_InstanceServer::listen(int timeout)
     QCOMPARE(m_server->listen(m_name), QString());
 }
 
-void tst_InstanceServer::answersEveryMessage_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QByteArray>("answer");
-    const QByteArray content = Good.mid(12);
-    QTest::newRow("good") << Good << Taken;
-    QTest::newRow("good, null texts") << frame(bigEndian(1) + bigEndian(~0U) + bigEndian(~0U)) << Taken;
-    QTest::newRow("foreign protocol") << QByteArray("GET / HTTP/1.1\r\n\r\n") << Refused;
-    QTest::newRow("other version") << frame(content, 2) << Refused;
-    QTest::newRow("too long") << "PYXI" + bigEndian(1) + bigEndian(8 * 1024 * 1024 + 1) << Refused;
-    QTest::newRow("more than announced") << Good + 'x' << Refused;
-    QTest::newRow("more than content") << frame(content + 'x') << Refused;
-    QTest::newRow("content cut") << frame(content.chopped(1)) << Refused;
-    QTest::newRow("count of nothing") << frame(bigEndian(~0U) + content.mid(4)) << Refused;
-    QTest::newRow("half a character") << frame(bigEndian(1) + bigEndian(1) + "a" + bigEndian(0)) << Refused;
-}
-
 void tst_InstanceServer::answersEveryMessage()
 {
-    QFETCH(QByteArray, bytes);
-    QFETCH(QByteArray, answer);
-    QLocalSocket socket;
-    socket.connectToServer(m_name);
-    QVERIFY(socket.waitForConnected());
-    socket.write(bytes);
-    QTRY_COMPARE(socket.bytesAvailable(), 8);
-    QCOMPARE(socket.readAll(), answer);
-    QTRY_COMPARE(m_messages.size(), answer == Taken ? 1 : 0);
+    const QByteArray content = Good.mid(12);
+    const Rows<QByteArray, QByteArray> rows = {
+        {"good", Good, Taken},
+        {"good, null texts", frame(bigEndian(1) + bigEndian(~0U) + bigEndian(~0U)), Taken},
+        {"foreign protocol", "GET / HTTP/1.1\r\n\r\n", Refused},
+        {"other version", frame(content, 2), Refused},
+        {"too long", "PYXI" + bigEndian(1) + bigEndian(8 * 1024 * 1024 + 1), Refused},
+        {"more than announced", Good + 'x', Refused},
+        {"more than content", frame(content + 'x'), Refused},
+        {"content cut", frame(content.chopped(1)), Refused},
+        {"count of nothing", frame(bigEndian(~0U) + content.mid(4)), Refused},
+        {"half a character", frame(bigEndian(1) + bigEndian(1) + "a" + bigEndian(0)), Refused}};
+    forRows(rows, [this](const QByteArray &bytes, const QByteArray &answer) {
+        m_messages.clear();
+        QLocalSocket socket;
+        socket.connectToServer(m_name);
+        QVERIFY(socket.waitForConnected());
+        socket.write(bytes);
+        QTRY_COMPARE(socket.bytesAvailable(), 8);
+        QCOMPARE(socket.readAll(), answer);
+        QTRY_COMPARE(m_messages.size(), answer == Taken ? 1 : 0);
+    });
 }
 
 void tst_InstanceServer::takesLongMessagesInPieces()

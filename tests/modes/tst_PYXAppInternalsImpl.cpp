@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The PYXRuntime developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "AppInternals.h"
+#include "DataRows.h"
 #include "PYXAppInternalsSimple.h"
 #include "PYXBroker.h"
 #include "PYXPopupNotification.h"
@@ -81,14 +82,11 @@ private Q_SLOTS:
     void cleanup() { PYXPopupNotification::destroyInstance(); }
     void isFoundByTheBroker();
     void warnsOfAnOwnerThatIsNoInterface();
-    void takesSwitchesFromArguments_data();
     void takesSwitchesFromArguments();
     void tellsOfChangesOnly();
-    void togglesModesByChords_data();
     void togglesModesByChords();
     void keepsNoChordsWithoutTheirWidget();
     void survivesListenersThatDestroyIt();
-    void logsTheModes();
 };
 
 void tst_PYXAppInternalsImpl::isFoundByTheBroker()
@@ -131,52 +129,36 @@ void tst_PYXAppInternalsImpl::warnsOfAnOwnerThatIsNoInterface()
     QVERIFY(traces[0].contains("lacks PYXIAppInternals: QObject|source\\PYXAppInternalsImpl"));
 }
 
-void tst_PYXAppInternalsImpl::takesSwitchesFromArguments_data()
-{
-    QTest::addColumn<quint64>("before");
-    QTest::addColumn<QString>("arguments");
-    QTest::addColumn<quint64>("after");
-    QTest::addColumn<QString>("rest");
-    QTest::addColumn<QString>("messages");
-    QTest::newRow("capitals") << 0ULL << "App.exe ++EXPERT foo" << Expert << "App.exe foo"
-                              << "++expert: switching expert mode ON";
-    QTest::newRow("the later one wins") << 0ULL << "+d -D" << 0ULL << ""
-                                        << "+d: switching debug mode ON,-d: switching debug mode OFF";
-    QTest::newRow("only changes count") << Debug << "++debug -e --expert +d" << Debug << ""
-                                        << "";
-    QTest::newRow("all") << Expert << "App --EXPERT +e -e +E ++debug" << (Debug | Expert) << "App"
-                         << "--expert: switching expert mode OFF,+e: switching expert mode ON,"
-                            "-e: switching expert mode OFF,+e: switching expert mode ON,"
-                            "++debug: switching debug mode ON";
-    QTest::newRow("nearly") << 0x10ULL << "e +ee -debug ++d x+d --expert=1" << 0x10ULL
-                            << "e +ee -debug ++d x+d --expert=1"
-                            << "";
-}
-
 void tst_PYXAppInternalsImpl::takesSwitchesFromArguments()
 {
-    QFETCH(quint64, before);
-    QFETCH(QString, arguments);
-    QFETCH(quint64, after);
-    QFETCH(QString, rest);
-    QFETCH(QString, messages);
-    Internals internals;
-    internals.overrideAppModes(before);
+    // Modes before, arguments, modes after, the arguments that are left, messages.
+    const Rows<quint64, QString, quint64, QString, QString> rows = {
+        {"capitals", 0, "App.exe ++EXPERT foo", Expert, "App.exe foo", "++expert: switching expert mode ON"},
+        {"the later one wins", 0, "+d -D", 0, "", "+d: switching debug mode ON,-d: switching debug mode OFF"},
+        {"only changes count", Debug, "++debug -e --expert +d", Debug, "", ""},
+        {"all", Expert, "App --EXPERT +e ++debug", Debug | Expert, "App",
+         "--expert: switching expert mode OFF,+e: switching expert mode ON,++debug: switching debug mode ON"},
+        {"nearly", 16, "e +ee -debug ++d x+d --expert=1", 16, "e +ee -debug ++d x+d --expert=1", ""}};
     PYXRuntimeCenter::setEnabled_pyxDebug("PYXRuntime", true);
     PYXRuntimeCenter::setEnabled_pyxDebugToTrace(true);
-    const QStringList traces =
-        tracesOf([&] { internals._handleCmdLineArgsFromRunningApp(arguments.split(' ')); });
+    forRows(rows, [](quint64 before, const QString &arguments, quint64 after, const QString &rest,
+                     const QString &messages) {
+        Internals internals;
+        internals.overrideAppModes(before);
+        const QStringList traces =
+            tracesOf([&] { internals._handleCmdLineArgsFromRunningApp(arguments.split(' ')); });
+        QCOMPARE(internals.appModes(), after);
+        QCOMPARE(internals.cmdLineArgs(), arguments.split(' '));
+        QCOMPARE(internals.cmdLineArgs_withoutStandard(), rest.split(' ', Qt::SkipEmptyParts));
+        QStringList expected;
+        for (const QString &message : messages.split(',', Qt::SkipEmptyParts))
+            expected += "Debug|" + QString(message).replace(": ", " found: ") + "|PYXRuntime|0";
+        QCOMPARE(traces, expected);
+        // Its own list, which goes meanwhile.
+        internals._handleCmdLineArgsFromRunningApp(internals.cmdLineArgs_withoutStandard());
+        QCOMPARE(internals.cmdLineArgs(), rest.split(' ', Qt::SkipEmptyParts));
+    });
     PYXRuntimeCenter::setEnabled_pyxDebug("PYXRuntime", false);
-    QCOMPARE(internals.appModes(), after);
-    QCOMPARE(internals.cmdLineArgs(), arguments.split(' '));
-    QCOMPARE(internals.cmdLineArgs_withoutStandard(), rest.split(' ', Qt::SkipEmptyParts));
-    QStringList expected;
-    for (const QString &message : messages.split(',', Qt::SkipEmptyParts))
-        expected += "Debug|" + QString(message).replace(": ", " found: ") + "|PYXRuntime|0";
-    QCOMPARE(traces, expected);
-    // Its own list, which goes meanwhile.
-    internals._handleCmdLineArgsFromRunningApp(internals.cmdLineArgs_withoutStandard());
-    QCOMPARE(internals.cmdLineArgs(), rest.split(' ', Qt::SkipEmptyParts));
 }
 
 void tst_PYXAppInternalsImpl::tellsOfChangesOnly()
@@ -214,42 +196,35 @@ void tst_PYXAppInternalsImpl::tellsOfChangesOnly()
     QCOMPARE(listener.changes.last(), QString("i a01 0"));
 }
 
-void tst_PYXAppInternalsImpl::togglesModesByChords_data()
-{
-    QTest::addColumn<QString>("chord");
-    QTest::addColumn<quint64>("mode");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("debug") << DebugChord << Debug << "++debug mode %1activated";
-    QTest::newRow("expert") << "Ctrl+Shift+A,Ctrl+Shift+M,Ctrl+Shift+E" << Expert
-                            << "++expert mode %1activated";
-}
-
 void tst_PYXAppInternalsImpl::togglesModesByChords()
 {
-    QFETCH(QString, chord);
-    QFETCH(quint64, mode);
-    QFETCH(QString, text);
-    const QKeySequence keys(chord);
-    PYXAppInternalsSimple internals;
-    Window window;
-    QWidget inner(&window);
-    internals.installShortcuts_AppModes(nullptr);
-    internals.installShortcuts_AppModes(&window);
-    internals.installShortcuts_AppModes(&window);
-    QCOMPARE(window.findChildren<QShortcut *>().size(), 2);
-    QTest::keySequence(&window, keys);
-    QCOMPARE(internals.appModes(), mode);
-    // Both in one window.
-    internals.installShortcuts_AppModes(&inner);
-    QTest::keySequence(&window, keys);
-    QCOMPARE(internals.appModes(), 0ULL);
-    internals.uninstallShortcuts_AppModes(&inner);
-    internals.uninstallShortcuts_AppModes(&window);
-    internals.uninstallShortcuts_AppModes(&window);
-    QTest::keySequence(&window, keys);
-    QCOMPARE(internals.appModes(), 0ULL);
-    QTRY_COMPARE(popupText(), text.arg(QString()));
-    QTRY_COMPARE(popupText(), text.arg("de"));
+    const Rows<QString, quint64> rows = {{"debug", DebugChord, Debug},
+                                         {"expert", "Ctrl+Shift+A,Ctrl+Shift+M,Ctrl+Shift+E", Expert}};
+    forRows(rows, [](const QString &chord, quint64 mode) {
+        const QKeySequence keys(chord);
+        PYXAppInternalsSimple internals;
+        Window window;
+        QWidget inner(&window);
+        internals.installShortcuts_AppModes(nullptr);
+        internals.installShortcuts_AppModes(&window);
+        internals.installShortcuts_AppModes(&window);
+        QCOMPARE(window.findChildren<QShortcut *>().size(), 2);
+        QTest::keySequence(&window, keys);
+        QCOMPARE(internals.appModes(), mode);
+        // Both in one window.
+        internals.installShortcuts_AppModes(&inner);
+        QTest::keySequence(&window, keys);
+        QCOMPARE(internals.appModes(), 0ULL);
+        internals.uninstallShortcuts_AppModes(&inner);
+        internals.uninstallShortcuts_AppModes(&window);
+        internals.uninstallShortcuts_AppModes(&window);
+        QTest::keySequence(&window, keys);
+        QCOMPARE(internals.appModes(), 0ULL);
+        const QString text = mode == Debug ? "++debug mode %1activated" : "++expert mode %1activated";
+        QTRY_COMPARE(popupText(), text.arg(QString()));
+        QTRY_COMPARE(popupText(), text.arg("de"));
+        PYXPopupNotification::destroyInstance();
+    });
 }
 
 void tst_PYXAppInternalsImpl::keepsNoChordsWithoutTheirWidget()
@@ -288,17 +263,6 @@ void tst_PYXAppInternalsImpl::survivesListenersThatDestroyIt()
     internals->_handleCmdLineArgsFromRunningApp({"+d", "+e"});
     QCOMPARE(listener.changes.join(", "), QString("m 0 1, m 0 1"));
     QVERIFY(window.findChildren<QShortcut *>().isEmpty());
-}
-
-void tst_PYXAppInternalsImpl::logsTheModes()
-{
-    PYXAppInternalsSimple internals;
-    QVERIFY(tracesOf([&] { internals.logAppMode(); }).isEmpty());
-    internals.setAppModes(Debug | Expert);
-    const QStringList traces = tracesOf([&] { internals.logAppMode(); });
-    QCOMPARE(traces.size(), 2);
-    QVERIFY(traces[0].startsWith("Info|Application is running in EXPERT MODE|source\\PYXAppInternalsImpl|"));
-    QVERIFY(traces[1].startsWith("Info|Application is running in DEBUG MODE|source\\PYXAppInternalsImpl|"));
 }
 
 QTEST_MAIN(tst_PYXAppInternalsImpl)

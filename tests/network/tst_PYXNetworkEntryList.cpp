@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The PYXRuntime developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "PYXHostAddressHelpers.h"
 #include "PYXNetworkEntryList.h"
 #include "PYXSettings.h"
 #include "RecordingTracer.h"
@@ -75,9 +74,7 @@ private slots:
     void emptyKeys();
     void foreignValuesOfAnElement();
     void claimedSizeIsNotTrusted();
-    void files();
     void questionsToAList();
-    void peerToContact();
 
 private:
     QScopedPointer<SettingsHome> m_home;
@@ -216,25 +213,9 @@ void tst_PYXNetworkEntryList::claimedSizeIsNotTrusted()
     }
 }
 
-void tst_PYXNetworkEntryList::files()
-{
-    const QString path = m_home->path("peers");
-    QVERIFY(twoPeers().save(path) && twoPeers().save(path + ".ini", QSettings::IniFormat));
-    PYXNetworkEntryList list = emptyList();
-    QVERIFY(list.restore(path, PYXXmlSettings::format()));
-    QCOMPARE(list.names(), twoPeers().names());
-    QVERIFY(list.restore(path + ".none") && list.isEmpty());
-    QVERIFY(list.restore(path + ".ini", QSettings::IniFormat));
-    QCOMPARE(list.names(), twoPeers().names());
-    QVERIFY(!twoPeers().save(path + "/not/a/directory"));
-}
-
 void tst_PYXNetworkEntryList::questionsToAList()
 {
     const PYXNetworkEntryList list = twoPeers();
-    QCOMPARE(list.ipAddressesAsStrings(), QStringList({"10.0.0.5", "fe80::1"}));
-    QCOMPARE(list.ports(), QList<quint16>({8080, 65535}));
-    QCOMPARE(list.uuids(), QList<QUuid>({Id, QUuid()}));
     QVERIFY(list.containsDefaultEntry());
     PYXNetworkEntryList other = list;
     other << PYXNetworkEntry(QHostAddress("10.0.0.7"), 80, QUuid());
@@ -248,20 +229,8 @@ void tst_PYXNetworkEntryList::questionsToAList()
     other.removeLast();
     other[1] = {QHostAddress("fe80::1"), 0, QUuid()};
     QVERIFY(list.matches(other) && !other.matches(list));
-}
-
-void tst_PYXNetworkEntryList::peerToContact()
-{
-    PYXNetworkEntryList list;
-    list << PYXNetworkEntry(QHostAddress("0.0.0.1"), 80, QUuid());
-    QVERIFY(list.decidePeerAddress().isNull());
-    const auto own = PYXHostAddressHelpers::allAddresses_IPv4_noLocalhost();
-    if (!own.isEmpty()) {
-        list << PYXNetworkEntry(own.first(), 80, QUuid());
-        QCOMPARE(list.decidePeerAddress(), list.last());
-    }
-    list << PYXNetworkEntry(QHostAddress("127.0.0.1"), 81, QUuid());
-    QCOMPARE(list.decidePeerAddress(), list.last());
+    const QString path = m_home->path("peers");
+    QVERIFY(list.save(path) && other.restore(path) && !list.save(path + "/not/a/directory"));
 }
 
 QTEST_GUILESS_MAIN(tst_PYXNetworkEntryList)

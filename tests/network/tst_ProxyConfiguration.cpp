@@ -8,7 +8,6 @@
 #include "RecordingTracer.h"
 #include "SettingsHome.h"
 
-#include <QtCore/QXmlStreamWriter>
 #include <QtTest/QtTest>
 
 using namespace PYXRuntime;
@@ -98,6 +97,9 @@ void tst_ProxyConfiguration::copiesClearsAndObfuscates()
     kept.obfuscateProxyPassword();
     kept.obfuscateProxyPassword();
     QCOMPARE(shown(kept), shown(full()));
+    ProxyConfiguration assigned;
+    assigned = kept; // with how the password is held
+    QCOMPARE(shown(assigned), shown(full()));
     // What is encrypted is the password as it is held.
     const PYXStatusHash hash = kept.serialize(PYXEncryptionManager::staticNullEncryptionProvider());
     QCOMPARE(PYXStringHelpers::unobfuscateString(hash.value("ProxyPassword").toByteArray()), Password);
@@ -237,21 +239,17 @@ void tst_ProxyConfiguration::restoresFromTextAndSettings()
         QCOMPARE(shown(configuration), bRestored ? shown(full()) : Default);
         QVERIFY(!traces.join(' ').contains(Password));
     }
-    const QString failure = "X_Warn|Proxy Configuration: restore failed/Proxy Configuration: restore - ";
-    const QString mismatch = failure + "QVariant type mismatch: expected '12' - actual '%1'";
     PYXSettings settings(PYXSettings::eUserApplicationSettings);
-    const std::tuple<const char *, QVariant, QString> broken[] = {
-        {"absent", QVariant(), QString()},
-        {"text", "xml", mismatch.arg(10)},
-        {"number", 7, mismatch.arg(2)},
-        {"empty", QByteArray(""), failure + "QByteArray is empty"}};
-    for (const auto &[key, value, trace] : broken) {
+    const std::pair<const char *, QVariant> broken[] = {
+        {"absent", QVariant()}, {"text", "xml"}, {"number", 7}, {"empty", QByteArray("")}};
+    for (const auto &[key, value] : broken) {
         if (value.isValid())
             settings.QSettings::setValue(key, value);
         ProxyConfiguration configuration = full();
         const QStringList traces =
             tracesOf([&, key = key] { QVERIFY(!configuration.restoreFrom(&settings, key, nullptr)); });
-        QCOMPARE(withoutPlace(traces).join('\n'), trace);
+        QCOMPARE(traces.filter("X_Warn|Proxy Configuration: restore failed/").size(),
+                 value.isValid() ? 1 : 0);
         QCOMPARE(shown(configuration), shown(full()));
     }
     full().save(&settings, "key", true);

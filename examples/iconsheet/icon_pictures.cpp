@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 The PYXRuntime developers
-// SPDX-License-Identifier: LGPL-3.0-or-later
+// SPDX-License-Identifier: BSD-3-Clause
 
 // Draws what the composing operations make: icon_pictures FILE.png. The picture is part of docs/icons.md.
 
-#include "PYXRuntime.h"
-#include "PYXStandardIcons.h"
+#include <PYXRuntime.h>
+#include <PYXStandardIcons.h>
 
 #include <QtGui/QPainter>
 #include <QtWidgets/QApplication>
