@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QTextStream>
+#include <QTimer>
 #include <QVBoxLayout>
 
 using PYXRuntime::PYXBroker;
@@ -46,26 +47,33 @@ private:
     QLabel *m_gain = new QLabel;
 };
 
+/** With "--quit" it does what the user would do. */
+static void rehearse()
+{
+    if (!QApplication::arguments().contains("--quit"))
+        return;
+    QTimer::singleShot(0, [] {
+        auto *translations = PYXBroker::getInstance()->topObject<PYXITransConnector>();
+        const bool ok = translations->changeLocale("de") && translations->changeLocale("en");
+        QApplication::exit(ok ? 0 : 1);
+    });
+}
+Q_COREAPP_STARTUP_FUNCTION(rehearse)
+
 int main(int argc, char **argv)
 {
     QApplication application(argc, argv);
     QApplication::setOrganizationName("Example");
-    QApplication::setApplicationName("05 Language"); // so the file is "05 Language_de.qm"
+    QApplication::setApplicationName("05 Language"); // before anything that is called after it
     PYXRuntime::initialize_PYXRuntime();
-
     int result = 0;
     {
-        ReceiverWindow window;
+        ReceiverWindow window; // everything that uses the library, in a scope of its own
         window.show();
-        if (QApplication::arguments().contains("--quit")) {
-            auto *translations = PYXBroker::getInstance()->topObject<PYXITransConnector>();
-            result = translations->changeLocale("de") && translations->changeLocale("en") ? 0 : 1;
-        } else {
-            result = QApplication::exec();
-        }
+        result = QApplication::exec();
     }
     PYXRuntime::uninitialize_PYXRuntime();
-    return result;
+    return result; // the application object goes last
 }
 
 #include "language.moc"

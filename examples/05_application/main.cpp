@@ -6,7 +6,6 @@
 #include <PYXBroker.h>
 #include <PYXBrokerRegistration.h>
 #include <PYXRuntime.h>
-#include <PYXSettings.h>
 
 #include <QApplication>
 #include <QDateTime>
@@ -59,8 +58,6 @@ int main(int argc, char **argv)
 
     ApplicationInfo info;
     const PYXBrokerRegistration registration(PYXBrokerInterface<PYXIApplicationInfo>::id(), 0, &info);
-    info.ensureInitialized(); // before the first settings: they travel with a portable program
-    PYXSettings(PYXSettings::eUserApplicationSettings).setValue("Started", true);
 
     QTextStream(stdout) << writeLog() << "\nresults moved to "
                         << directory(PYXIApplicationInfo::eApplicationResultsDir) << '\n';

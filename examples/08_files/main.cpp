@@ -4,7 +4,7 @@
 // A recording goes to one file after the other, the oldest are deleted, and the user finds all that were
 // written.
 #include <PYXBroker.h>
-#include <PYXFileListImpl.h>
+#include <PYXIFileList.h>
 #include <PYXRetainingFileSet.h>
 #include <PYXRuntime.h>
 
@@ -48,7 +48,6 @@ int main(int argc, char **argv)
     QApplication::setOrganizationName("Example");
     QApplication::setApplicationName("08 Files");
     initialize_PYXRuntime();
-    PYXFileListImpl::makeSureInitialized(); // from now on the broker knows the list of written files
 
     const QTemporaryDir directory;
     const bool isWritten = record(directory.path());

@@ -12,7 +12,7 @@ namespace PYXRuntime {
 
 /**
  * The library's list of written files: the last 1000 that were registered. Nothing is kept on disk.
- * It is there, and known to the broker, from the first getInstance() until the library is shut down. Main
+ * Initialising the library makes it and shutting it down destroys it; meanwhile the broker knows it. Main
  * thread only.
  */
 class PYXRUNTIME_EXPORT PYXFileListImpl final : public PYXIFileList
