@@ -4,7 +4,6 @@
 
 #include <QtCore/QSignalBlocker>
 #include <QtGui/QPainter>
-#include <QtGui/QWindow>
 #include <QtWidgets/QHeaderView>
 #include <QtWidgets/QScrollBar>
 #include <QtWidgets/QStyledItemDelegate>
@@ -18,15 +17,26 @@ bool isShown(const QTreeWidgetItem *item)
     return !item->isHidden();
 }
 
-/** In the colour of the selected text, as the icon's own colours may be those of the selection. */
+/** Whether it is made of lines, and not a picture or a block of colour. */
+bool isLineDrawing(const QImage &image)
+{
+    int opaque = 0;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x)
+            opaque += qAlpha(image.pixel(x, y)) > 127 ? 1 : 0;
+    }
+    return opaque * 2 < image.width() * image.height();
+}
+
+/** Lines in the colour of the selected text, as their own colours may be those of the selection. */
 QIcon onSelection(const QIcon &icon, const QSize &size, const QStyleOptionViewItem &option)
 {
-    const QWindow *const window = option.widget->window()->windowHandle();
-    QPixmap pixmap = icon.pixmap(const_cast<QWindow *>(window), size);
-    QPainter painter(&pixmap);
-    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-    painter.fillRect(pixmap.rect(), option.palette.color(QPalette::HighlightedText));
-    painter.end();
+    QPixmap pixmap = icon.pixmap(option.widget->window()->windowHandle(), size);
+    if (!pixmap.isNull() && isLineDrawing(pixmap.toImage())) {
+        QPainter painter(&pixmap);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+        painter.fillRect(QRect(QPoint(), pixmap.size()), option.palette.color(QPalette::HighlightedText));
+    }
     QIcon result;
     result.addPixmap(pixmap, QIcon::Selected);
     return result;
