@@ -42,8 +42,8 @@ set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${runtime_package} (= ${debian_ver
 libpyxruntime-l10n (= ${debian_version}), qtbase5-dev (>= 5.15), libqt5svg5-dev (>= 5.15)")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SUGGESTS cmake)
 set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION "development files of the PYXRuntime library
-Headers, CMake package, guides and examples of the library that desktop
-applications for signal monitoring share.")
+Headers, CMake package, guides, Qt help and examples of the library that
+desktop applications for signal monitoring share.")
 
 # Without a date in the environment that of the last commit or, in an unpacked archive, now.
 if(NOT DEFINED ENV{SOURCE_DATE_EPOCH})

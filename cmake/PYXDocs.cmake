@@ -11,6 +11,8 @@ find_program(PYX_QHELPGENERATOR NAMES qhelpgenerator qhelpgenerator-qt5
     HINTS /usr/lib/qt5/bin "${_qt5Core_install_prefix}/bin" NO_CMAKE_FIND_ROOT_PATH REQUIRED)
 configure_file("${PROJECT_SOURCE_DIR}/docs/Doxyfile.in" "${PROJECT_BINARY_DIR}/docs/Doxyfile" @ONLY)
 set(PYX_QT_HELP "${PROJECT_BINARY_DIR}/docs/PYXRuntime.qch")
+# Only there where the target has been built.
+install(FILES "${PYX_QT_HELP}" DESTINATION "${doc_dir}" COMPONENT Development OPTIONAL)
 add_custom_target(docs
     COMMAND "${CMAKE_COMMAND}" -E rm -rf "${PROJECT_BINARY_DIR}/docs/html" "${PYX_QT_HELP}"
     COMMAND Doxygen::doxygen "${PROJECT_BINARY_DIR}/docs/Doxyfile"

@@ -11,7 +11,7 @@ if(CMAKE_INSTALL_PREFIX STREQUAL "/usr" AND EXISTS /etc/debian_version AND NOT W
 endif()
 
 # Three components: Runtime, what programs load; Translations (see resources/translations), whose names are the
-# same in every version of the interface; Development, what compiling needs, with guides and examples.
+# same in every version of the interface; Development, what compiling needs, with guides, Qt help and examples.
 get_property(public_headers GLOBAL PROPERTY PYX_PUBLIC_HEADERS)
 install(FILES ${public_headers} "${CMAKE_CURRENT_BINARY_DIR}/include/pyxruntime_export.h"
               "${CMAKE_CURRENT_BINARY_DIR}/include/pyxruntime_version.h"

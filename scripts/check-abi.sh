@@ -5,8 +5,7 @@
 # check-abi.sh BASE: fails where a program compiled against BASE (the tag or commit of a release) would not work with
 # the library as it is now: names that are gone, classes of another size or layout, tables of virtual functions that
 # differ; all that abidiff sees in what the public headers declare. Changes are allowed together with a new SONAME.
-# The library of BASE is built for that and kept in build/abi, the one that is here is of the preset dev. Nothing of it
-# is in the repository: a description of the interface as abidw writes it is 14 MB, and only fits the version of the
+# Both are built for that, the library of BASE once: it is kept in build/abi. Nothing of it is in the repository: a description of the interface as abidw writes it is 14 MB, and only fits the version of the
 # tool that wrote it.
 #   PYX_JOBS   how many jobs at a time (default: one per processor)
 set -euo pipefail
@@ -17,18 +16,20 @@ if [ $# -ne 1 ] || ! base=$(git rev-parse -q --verify "$1^{commit}"); then
     exit 2
 fi
 kept=build/abi/$base
-# Beside the build of what is here, so that ccache knows most of it.
+# Compiled as the preset dev, as deep below the sources, so that ccache knows most of it.
 sources=$kept/sources
 trap 'rm -rf "$sources"; git worktree prune' EXIT
 
 # build SOURCES
 build() {
-    local log=$1/build/dev/log
-    mkdir -p "$(dirname "$log")"
+    local build=$1/build/abi-current
+    mkdir -p "$build"
     {
-        cmake --preset dev -S "$1" && cmake --build "$1/build/dev" -j "$jobs" --target PYXRuntime
-    } >"$log" 2>&1 || {
-        tail -n 40 "$log" >&2
+        cmake --preset dev -S "$1" -B "$build" -DPYX_BUILD_TESTS=OFF -DPYX_BUILD_EXAMPLES=OFF \
+            -DCMAKE_PROJECT_PYXRuntime_INCLUDE="$PWD/cmake/PYXAbiTypes.cmake" &&
+            cmake --build "$build" -j "$jobs" --target PYXRuntime
+    } >"$build/log" 2>&1 || {
+        tail -n 40 "$build/log" >&2
         return 1
     }
 }
@@ -42,11 +43,11 @@ if [ ! -e "$kept/libPYXRuntime.so" ]; then
     git worktree add -q --detach "$sources" "$base"
     build "$sources"
     cp -r "$sources/include" "$kept/"
-    cp "$sources/build/dev/lib/libPYXRuntime.so" "$kept/"
+    cp "$sources/build/abi-current/lib/libPYXRuntime.so" "$kept/"
 fi
 echo "check-abi.sh: building what is here"
 build .
-current=build/dev/lib/libPYXRuntime.so
+current=build/abi-current/lib/libPYXRuntime.so
 
 echo "check-abi.sh: comparing"
 status=0

@@ -2,9 +2,9 @@
 # SPDX-FileCopyrightText: 2026 The PYXRuntime developers
 # SPDX-License-Identifier: LGPL-3.0-or-later
 #
-# package.sh [--windows]: makes the packages in build/packages from an optimised build of the library alone: three
-# .deb files, which lintian checks where it is installed, and an archive (.tar.gz). Two runs on the same commit make
-# the same bytes.
+# package.sh [--windows]: makes the packages in build/packages from an optimised build of the library alone, with its
+# Qt help: three .deb files, which lintian checks where it is installed, and an archive (.tar.gz). Two runs on the same
+# commit make the same bytes.
 #   --windows       the .zip for Windows instead, cross-built with MinGW
 #   WINQT_PREFIX    see test-windows.sh
 #   PYX_JOBS        how many jobs at a time (default: one per processor)
@@ -14,7 +14,7 @@ cd -- "$(dirname -- "${BASH_SOURCE[0]}")/.."
 umask 022
 jobs=${PYX_JOBS:-$(nproc)}
 packages=$PWD/build/packages
-only_library=(-DPYX_BUILD_TESTS=OFF -DPYX_BUILD_EXAMPLES=OFF -DPYX_BUILD_BENCHMARKS=OFF)
+only_library=(-DPYX_BUILD_TESTS=OFF -DPYX_BUILD_EXAMPLES=OFF -DPYX_BUILD_BENCHMARKS=OFF -DPYX_BUILD_DOCS=ON)
 if [ -z "${SOURCE_DATE_EPOCH:-}" ] && git rev-parse -q --verify HEAD >/dev/null 2>&1; then
     SOURCE_DATE_EPOCH=$(git log -1 --format=%ct)
     export SOURCE_DATE_EPOCH
@@ -44,7 +44,7 @@ linux() {
     export CXXFLAGS LDFLAGS
     # The prefix decides about the place of the files and the format of the package, not about what is compiled.
     cmake --preset release -B $build "${only_library[@]}" -DPYX_KEYCHAIN=ON -DCMAKE_INSTALL_PREFIX=/usr/local
-    cmake --build $build -j "$jobs"
+    cmake --build $build -j "$jobs" --target all docs
     pack $build 'PYXRuntime-*.tar.gz'
     cmake -B $build -DCMAKE_INSTALL_PREFIX=/usr
     cmake --build $build -j "$jobs"
@@ -65,7 +65,7 @@ windows() {
     find_qt
     cmake --preset windows -B $build "${only_library[@]}" -DPYX_KEYCHAIN=OFF \
         -DWINQT_PREFIX="$WINQT_PREFIX"
-    cmake --build $build -j "$jobs"
+    cmake --build $build -j "$jobs" --target all docs
     pack $build 'PYXRuntime-*.zip'
 }
 

@@ -13,10 +13,10 @@ set -euo pipefail
 base=(ca-certificates ccache cmake fonts-dejavu-core fonts-roboto-unhinted g++ git libkissfft-dev libqt5svg5-dev
     libsodium-dev ninja-build python3 python3-fonttools qtbase5-dev qtbase5-dev-tools qtkeychain-qt5-dev
     qttools5-dev-tools qttranslations5-l10n sox xauth xvfb)
-packaging=(abigail-tools dpkg-dev file lintian)
-dev=("${packaging[@]}" clang clang-format clang-tidy dbus doxygen gnome-keyring iproute2 libbenchmark-dev
+packaging=(abigail-tools doxygen dpkg-dev file lintian qhelpgenerator-qt5)
+dev=("${packaging[@]}" clang clang-format clang-tidy dbus gnome-keyring iproute2 libbenchmark-dev
     libclang-rt-14-dev libgstreamer1.0-dev libkf5config-dev libkf5iconthemes-dev libmimalloc-dev libspdlog-dev llvm
-    pkgconf python3-pefile python3-pycryptodome qhelpgenerator-qt5 qtwayland5 shellcheck valgrind weston)
+    microsocks pkgconf python3-pefile python3-pycryptodome qtwayland5 shellcheck tinyproxy-bin valgrind weston)
 windows=(binutils-mingw-w64-x86-64 bzip2 dpkg-dev g++-mingw-w64-x86-64-posix make patch perl qt5-qmake-bin wine
     wine64 xz-utils)
 

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 
 // One host's part of a test between hosts. Says what it does on standard output and takes a line on standard
-// input as a command: "report"; it ends with its input.
+// input as a command: "report" or "flood <address> <port> <size> <count>"; it ends with its input.
 //   broadcastprobe receive PORT
 //   broadcastprobe send PORT INTERVAL SIZE [OWN ADDRESS...]
 
@@ -10,9 +10,11 @@
 #include "BroadcastSender.h"
 
 #include <QtCore/QCoreApplication>
+#include <QtCore/QFile>
 #include <QtCore/QSet>
 #include <QtCore/QSocketNotifier>
 #include <QtCore/QTextStream>
+#include <QtNetwork/QUdpSocket>
 
 using namespace PYXRuntime;
 
@@ -50,6 +52,24 @@ private:
     QSet<QString> m_heard;
 };
 
+QString residentKilobytes()
+{
+    QFile status("/proc/self/status");
+    const bool bOpen = status.open(QIODevice::ReadOnly);
+    const QByteArray text = bOpen ? status.readAll() : QByteArray();
+    return text.mid(text.indexOf("VmRSS:") + 6).simplified().split(' ').value(0);
+}
+
+void flood(const QStringList &words)
+{
+    QUdpSocket socket;
+    const QByteArray datagram = patternOf(words.at(3).toInt());
+    int sent = 0;
+    for (int left = words.at(4).toInt(); left > 0; --left)
+        sent += socket.writeDatagram(datagram, QHostAddress(words.at(1)), words.at(2).toUShort()) > 0;
+    say(QString("flooded %1").arg(sent));
+}
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -73,14 +93,18 @@ int main(int argc, char **argv)
     QTextStream input(stdin);
     QSocketNotifier commands(0, QSocketNotifier::Read);
     QObject::connect(&commands, &QSocketNotifier::activated, [&] {
-        if (input.readLine() == "report")
-            say(QString("report %1 %2 %3 %4")
-                    .arg(receiver.receivedCount())
-                    .arg(receiver.receivedBytes())
-                    .arg(sender.sentCount())
-                    .arg(sender.failedCount() + receiver.failedCount()));
-        else
+        const QStringList words = input.readLine().split(' ');
+        if (words.first() == "flood") {
+            flood(words);
+        } else if (words.first() == "report") {
+            say(QString("report %1 %2 %3 %4 %5")
+                    .arg(QString::number(receiver.receivedCount()), QString::number(receiver.receivedBytes()),
+                         QString::number(sender.sentCount()),
+                         QString::number(sender.failedCount() + receiver.failedCount()),
+                         residentKilobytes()));
+        } else {
             QCoreApplication::quit();
+        }
     });
     return QCoreApplication::exec();
 }

@@ -3,7 +3,7 @@
 # SPDX-License-Identifier: LGPL-3.0-or-later
 """Sends broadcasts between two hosts: network namespaces that a pair of virtual cables joins.
 
-usage: two_hosts.py PROBE
+usage: two_hosts.py PROBE [--ignore-memory]
 Exit status 77: this machine or user cannot make namespaces.
 """
 import os
@@ -13,6 +13,8 @@ import subprocess
 import sys
 
 PORT = 45454
+FLOOD = 100_000
+FLOOD_SIZE = 200
 HOST_A, HOST_B = f"pyx-a-{os.getpid()}", f"pyx-b-{os.getpid()}"
 
 # A datagram with a wrong checksum. One of this size is dropped when it is read, not when it arrives.
@@ -61,7 +63,7 @@ class Probe:
 
     def report(self):
         self.command("report")
-        names = ("received", "bytes", "sent", "failed")
+        names = ("received", "bytes", "sent", "failed", "kilobytes")
         return dict(zip(names, map(int, self.expect("report")[1:])))
 
     def end(self):
@@ -90,7 +92,7 @@ def only_loopback_sends_nothing():
 
 
 def large_datagram_reaches_all(receivers):
-    sender = Probe(HOST_A, "send", str(PORT), "60000", "2000")  # the first one goes at once
+    sender = Probe(HOST_A, "send", str(PORT), "50", "2000")
     for receiver in receivers:
         receiver.expect("heard 10.77.0.1 2000 whole")
     check(True, "both receivers on one port get 2000 bytes whole")
@@ -117,6 +119,30 @@ def damaged_datagram_does_not_deafen(receivers):
     sender.end()
 
 
+def flood_is_counted(receivers):
+    """The systems' counters tell what was lost before a receiver could see it."""
+    lost = udp_counters(HOST_B)["RcvbufErrors"]
+    before = [receiver.report() for receiver in receivers]
+    source = Probe(HOST_A, "send", "9", "60000", "0")
+    source.command(f"flood 10.77.0.255 {PORT} {FLOOD_SIZE} {FLOOD}")
+    sent = int(source.expect("flooded")[1])
+    while True:
+        after = [receiver.report() for receiver in receivers]
+        received = [new["received"] - old["received"] for old, new in zip(before, after)]
+        dropped = udp_counters(HOST_B)["RcvbufErrors"] - lost
+        if sum(received) + dropped >= len(receivers) * sent:
+            break
+    grown = [new["kilobytes"] - old["kilobytes"] for old, new in zip(before, after)]
+    print(f"        sent {sent}, received {received}, lost in the system {dropped}, memory grew by {grown} KB")
+    check(sent == FLOOD, "the flood is sent")
+    check(sum(received) + dropped == len(receivers) * sent, "every datagram of the flood is counted once")
+    check(all(new["bytes"] - old["bytes"] == count * FLOOD_SIZE
+              for old, new, count in zip(before, after, received)), "so are its bytes")
+    if "--ignore-memory" not in sys.argv:
+        check(max(grown) < 1024, "the flood leaves the memory flat")
+    source.end()
+
+
 def main():
     if os.geteuid() != 0 or not shutil.which("ip"):
         print("SKIPPED: making network namespaces needs root and iproute2.")
@@ -136,6 +162,7 @@ def main():
         large_datagram_reaches_all(receivers)
         later_network_is_noticed(receivers)
         damaged_datagram_does_not_deafen(receivers)
+        flood_is_counted(receivers)
         for receiver in receivers:
             receiver.end()
     finally:
