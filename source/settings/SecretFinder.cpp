@@ -23,7 +23,7 @@ constexpr std::array<bool, 0x80> firstLetters()
 {
     std::array<bool, 0x80> letters = {};
     for (const std::string_view word : Words)
-        letters[static_cast<std::size_t>(word.front())] = true;
+        letters[static_cast<unsigned char>(word.front())] = true;
     return letters;
 }
 
@@ -39,7 +39,7 @@ bool hasSecretWord(const QString &text)
 /** @param letters  in ASCII, small */
 bool beginsWithSecretWord(std::string_view letters)
 {
-    return FirstLetters[static_cast<std::size_t>(letters.front())] &&
+    return FirstLetters[static_cast<unsigned char>(letters.front())] &&
            std::any_of(std::begin(Words), std::end(Words),
                        [letters](std::string_view word) { return letters.substr(0, word.size()) == word; });
 }
