@@ -95,7 +95,7 @@ void addSystemFigures(SoakReport &report)
     using namespace ProcessFigures;
     add("resident KiB", SoakReport::ekRule_Slope, 8 * MiB, [] { return memory().residentKiB; });
     add("private dirty KiB", SoakReport::ekRule_Slope, 8 * MiB, [] { return memory().privateDirtyKiB; });
-    add("heap in use KiB", SoakReport::ekRule_Slope, 2 * MiB, heapInUse);
+    add("heap in use KiB", SoakReport::ekRule_Slope, 4 * MiB, heapInUse);
     add("descriptors", SoakReport::ekRule_Growth, 0, descriptors);
     add("threads", SoakReport::ekRule_Growth, 0, threads);
     add("QObjects", SoakReport::ekRule_Growth, 10, ObjectCensus::count);
