@@ -15,7 +15,7 @@ jobs=${PYX_JOBS:-$(nproc)}
 results=$(mktemp -d)
 trap 'rm -rf "$results"' EXIT
 export QT_QPA_PLATFORM=offscreen
-# The bounds are for every language and time zone of the machine.
+# The same figures in every language and time zone.
 export LC_ALL=C.UTF-8 TZ=UTC
 
 # A network of its own, so that no announcement leaves it: announcements are heard by their sender only.
