@@ -4,7 +4,7 @@
 #
 # Runs Band Monitor under load, see docs/soak.md. Nothing of it reaches a screen or a network.
 #   soak.sh [MINUTES [SPEED]]      15 minutes at 50 times real time; prints what has become of memory, descriptors and
-#                                  tables, and writes it into docs/soak.md
+#                                  tables, and writes it into docs/soak.md; ten minutes fill the tables
 #   soak.sh --valgrind [MINUTES]   a minute, slowly, under Valgrind: fails for leaks and invalid accesses of ours
 #   PYX_NO_SETUP   not empty: install nothing
 # Exit status 77: this machine has no network namespaces for users.
