@@ -3,9 +3,9 @@
 # SPDX-License-Identifier: LGPL-3.0-or-later
 #
 # Runs Band Monitor under load, see docs/soak.md. Nothing of it reaches a screen or a network.
-#   soak.sh [MINUTES [SPEED]]   15 minutes at 50 times real time; prints what has become of memory, descriptors and
-#                               tables, and writes it into docs/soak.md
-#   soak.sh --valgrind          a minute, slowly, under Valgrind: fails for leaks and invalid accesses of ours
+#   soak.sh [MINUTES [SPEED]]      15 minutes at 50 times real time; prints what has become of memory, descriptors and
+#                                  tables, and writes it into docs/soak.md; ten minutes fill the tables
+#   soak.sh --valgrind [MINUTES]   a minute, slowly, under Valgrind: fails for leaks and invalid accesses of ours
 #   PYX_NO_SETUP   not empty: install nothing
 # Exit status 77: this machine has no network namespaces for users.
 set -euo pipefail
@@ -15,7 +15,7 @@ jobs=${PYX_JOBS:-$(nproc)}
 results=$(mktemp -d)
 trap 'rm -rf "$results"' EXIT
 export QT_QPA_PLATFORM=offscreen
-# The bounds are for every language and time zone of the machine.
+# The same figures in every language and time zone.
 export LC_ALL=C.UTF-8 TZ=UTC
 
 # A network of its own, so that no announcement leaves it: announcements are heard by their sender only.
@@ -40,7 +40,7 @@ if [ "${1:-}" = --valgrind ]; then
     in_private_network valgrind --quiet --leak-check=full --show-leak-kinds=definite,indirect \
         --errors-for-leak-kinds=definite,indirect --error-exitcode=9 --num-callers=30 \
         --suppressions=tests/soak/valgrind.supp \
-        build/dev/bin/soak --minutes 1 --speed 0.5 --loop 1 --no-verdict
+        build/dev/bin/soak --minutes "${2:-1}" --speed 0.5 --loop 1 --no-verdict
     exit
 fi
 

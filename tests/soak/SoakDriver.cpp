@@ -56,7 +56,7 @@ constexpr int Kinds = 16;
 
 PYXFileTracer::struFiles traceFiles(const QString &directory)
 {
-    return {directory, QStringLiteral("soak.txt"), 64 * 1024, 5, QStringLiteral("Soak"), true};
+    return {directory, QStringLiteral("soak.txt"), 65536, 5, QStringLiteral("Soak"), true};
 }
 
 /** The file list is as full as it gets: what its growing takes is not to be seen afterwards. */
@@ -80,7 +80,7 @@ SoakDriver::SoakDriver(MainWindow &window, PYXAppInternalsSimple &internals,
 {
     m_sampleFiles.setBaseDirectory(directory);
     m_sampleFiles.setBaseFileName(QStringLiteral("samples.iq"));
-    m_sampleFiles.setMaximumWeightPerFile(1024 * 1024);
+    m_sampleFiles.setMaximumWeightPerFile(1U << 20);
     m_sampleFiles.setMaximumNumberOfFiles(4);
     m_lineFiles.setBaseDirectory(directory);
     m_lineFiles.setBaseFileName(QStringLiteral("spectra.csv"));
@@ -172,7 +172,7 @@ void SoakDriver::_playAnew()
     connect(monitor, &SignalMonitor::si_samples, this, [this](const BandMonitor::struSampleBlock &block) {
         if (++m_blocks % BlocksPerWrittenOne == 0)
             m_sampleFiles.write(reinterpret_cast<const char *>(block.samples()),
-                                qint64(block.count * sizeof(BandMonitor::Sample)));
+                                qint64(block.count) * qint64(sizeof(BandMonitor::Sample)));
     });
     connect(monitor, &SignalMonitor::si_spectrum, this, [this](const BandMonitor::struSpectrum &spectrum) {
         m_lineFiles.write(QByteArray::number(spectrum.time) + '\n');

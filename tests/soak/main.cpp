@@ -39,14 +39,14 @@ namespace {
 
 constexpr int SampleInterval = 1000; // in ms
 constexpr double MiB = 1024;         // in KiB
+constexpr double WarmUpShare = 0.2;  // of the time
 
 struct struOptions
 {
     double minutes = 15;
     double speed = 50;
     double leastSpeed = 0;
-    double warmUp = 3; ///< in minutes
-    double loop = 12;  ///< of the band, in seconds
+    double loop = 12; ///< of the band, in seconds
     bool bJudging = true;
     QString samples; ///< path
 };
@@ -55,8 +55,6 @@ struOptions optionsOf(const QCoreApplication &application)
 {
     const QCommandLineOption minutes(QStringLiteral("minutes"), QStringLiteral("How long."),
                                      QStringLiteral("minutes"), QStringLiteral("15"));
-    const QCommandLineOption warmUp(QStringLiteral("warm-up"), QStringLiteral("What is not judged."),
-                                    QStringLiteral("minutes"), QStringLiteral("3"));
     const QCommandLineOption speed(QStringLiteral("speed"), QStringLiteral("Seconds of the band per second."),
                                    QStringLiteral("factor"), QStringLiteral("50"));
     const QCommandLineOption least(QStringLiteral("least-speed"),
@@ -70,15 +68,10 @@ struOptions optionsOf(const QCoreApplication &application)
                                        QStringLiteral("Only work, for somebody else to watch."));
     QCommandLineParser parser;
     parser.addHelpOption();
-    parser.addOptions({minutes, warmUp, speed, least, loop, noVerdict, samples});
+    parser.addOptions({minutes, speed, least, loop, noVerdict, samples});
     parser.process(application);
-    return {parser.value(minutes).toDouble(),
-            parser.value(speed).toDouble(),
-            parser.value(least).toDouble(),
-            parser.value(warmUp).toDouble(),
-            parser.value(loop).toDouble(),
-            !parser.isSet(noVerdict),
-            parser.value(samples)};
+    return {parser.value(minutes).toDouble(), parser.value(speed).toDouble(), parser.value(least).toDouble(),
+            parser.value(loop).toDouble(),    !parser.isSet(noVerdict),       parser.value(samples)};
 }
 
 double rowsOf(const QWidget &window, const char *table)
@@ -95,7 +88,7 @@ void addSystemFigures(SoakReport &report)
     using namespace ProcessFigures;
     add("resident KiB", SoakReport::ekRule_Slope, 8 * MiB, [] { return memory().residentKiB; });
     add("private dirty KiB", SoakReport::ekRule_Slope, 8 * MiB, [] { return memory().privateDirtyKiB; });
-    add("heap in use KiB", SoakReport::ekRule_Slope, 2 * MiB, heapInUse);
+    add("heap in use KiB", SoakReport::ekRule_Slope, 4 * MiB, heapInUse);
     add("descriptors", SoakReport::ekRule_Growth, 0, descriptors);
     add("threads", SoakReport::ekRule_Growth, 0, threads);
     add("QObjects", SoakReport::ekRule_Growth, 10, ObjectCensus::count);
@@ -127,11 +120,12 @@ bool print(const struOptions &options, const SoakReport &report, const SoakDrive
 {
     QTextStream out(stdout);
     const double played = driver.playedSeconds();
+    const double sampleRate = BandMonitor::BandGenerator::ownBand().sampleRate;
     const double processor = double(std::clock()) / CLOCKS_PER_SEC;
     out << QStringLiteral(
                "%1 s of the band (%2 million samples) in %3 s: %4 times real time. Everything together "
                "took %5 s of processor time.\n\n")
-               .arg(QString::number(played, 'f', 0), QString::number(played * 0.096, 'f', 0),
+               .arg(QString::number(played, 'f', 0), QString::number(played * sampleRate / 1e6, 'f', 0),
                     QString::number(seconds, 'f', 0), QString::number(played / seconds, 'f', 1),
                     QString::number(processor, 'f', 0));
     const QMap<QString, int> counts = driver.counts();
@@ -162,11 +156,32 @@ void printGrowth(const QMap<QByteArray, int> &before)
             out << count.key() << ": " << before.value(count.key()) << " -> " << count.value() << '\n';
 }
 
+/** Lets the window live as long as it is to, and takes samples. @return how many seconds that took. */
+double watch(double minutes, SoakReport &report, QMap<QByteArray, int> &warm)
+{
+    QElapsedTimer elapsed;
+    elapsed.start();
+    QTimer sampling;
+    QObject::connect(&sampling, &QTimer::timeout, [&] {
+        const double seconds = double(elapsed.elapsed()) / 1000;
+        if (QApplication::activeModalWidget() != nullptr)
+            return; // dialogs come and go: what they take is not to be compared with what is without them
+        malloc_trim(0);
+        report.takeSample(seconds);
+        if (warm.isEmpty() && seconds > minutes * 60 * WarmUpShare)
+            warm = ObjectCensus::histogram();
+        if (seconds >= minutes * 60)
+            QCoreApplication::quit();
+    });
+    sampling.start(SampleInterval);
+    QCoreApplication::exec();
+    return double(elapsed.elapsed()) / 1000;
+}
+
 int soak(const struOptions &options, const QString &directory)
 {
     PYXAppInternalsSimple internals;
     internals.initialize_PYXAppInternalsImpl();
-    PYXFileListImpl::makeSureInitialized();
     const BandMonitor::LocaleFollower localeFollower;
     MainWindow window;
     window.followModes(&internals);
@@ -176,27 +191,11 @@ int soak(const struOptions &options, const QString &directory)
     driver.start(options.speed);
     window.show();
 
-    SoakReport report(options.warmUp * 60);
+    SoakReport report(options.minutes * 60 * WarmUpShare);
     addSystemFigures(report);
     addTables(report, window, driver);
-    QElapsedTimer elapsed;
-    elapsed.start();
     QMap<QByteArray, int> warm;
-    QTimer sampling;
-    QObject::connect(&sampling, &QTimer::timeout, [&] {
-        const double seconds = double(elapsed.elapsed()) / 1000;
-        if (QApplication::activeModalWidget() != nullptr)
-            return; // dialogs come and go: what they take is not to be compared with what is without them
-        malloc_trim(0);
-        report.takeSample(seconds);
-        if (warm.isEmpty() && seconds > options.warmUp * 60)
-            warm = ObjectCensus::histogram();
-        if (seconds >= options.minutes * 60)
-            QCoreApplication::quit();
-    });
-    sampling.start(SampleInterval);
-    QCoreApplication::exec();
-    const double seconds = double(elapsed.elapsed()) / 1000;
+    const double seconds = watch(options.minutes, report, warm);
     driver.stop();
     const bool bGood = print(options, report, driver, seconds);
     if (!bGood)
