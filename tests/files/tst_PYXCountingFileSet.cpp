@@ -14,6 +14,7 @@
 #include <atomic>
 #include <memory>
 #include <random>
+#include <thread>
 
 using namespace PYXRuntime;
 using LineSet = Numbered<PYXLineCountingFileSet>;
@@ -223,24 +224,21 @@ void tst_PYXCountingFileSet::registersItsFiles()
     QCOMPARE(list->fileList()[0].fileType, PYXIFileList::ekFT_RECORDING);
     QVERIFY(list->fileList()[0].startDateTime.isValid());
     // In another thread the set does not touch the list itself.
-    std::unique_ptr<QThread> thread(QThread::create([&] { set.write("a") == 1 && set.write("b"); }));
-    thread->start();
-    QVERIFY(thread->wait());
+    std::thread([&] { set.write("a") == 1 && set.write("b"); }).join();
     QCOMPARE(list->fileCount("Recorder"), 1);
     QTRY_COMPARE(list->fileCount("Recorder"), 2);
     // Lists may come and go meanwhile.
     std::atomic<bool> bDone(false);
-    thread.reset(QThread::create([&] {
+    std::thread writer([&] {
         while (!bDone)
             set.write("c");
-    }));
-    thread->start();
+    });
     for (int i = 0; i < 100; ++i) {
         PYXFileListImpl::destroyInstance();
         PYXFileListImpl::makeSureInitialized();
     }
     bDone = true;
-    QVERIFY(thread->wait());
+    writer.join();
 }
 
 void tst_PYXCountingFileSet::losesAndDoublesNothing_data()
