@@ -16,7 +16,7 @@ base=(ca-certificates ccache cmake fonts-dejavu-core fonts-roboto-unhinted g++ g
 packaging=(abigail-tools dpkg-dev file lintian)
 dev=("${packaging[@]}" clang clang-format clang-tidy dbus doxygen gnome-keyring iproute2 libbenchmark-dev
     libclang-rt-14-dev libgstreamer1.0-dev libkf5config-dev libkf5iconthemes-dev libmimalloc-dev libspdlog-dev llvm
-    pkgconf python3-pefile python3-pycryptodome qhelpgenerator-qt5 qtwayland5 shellcheck valgrind weston)
+    pkgconf python3-pycryptodome qhelpgenerator-qt5 qtwayland5 shellcheck valgrind weston)
 windows=(binutils-mingw-w64-x86-64 bzip2 dpkg-dev g++-mingw-w64-x86-64-posix make patch perl qt5-qmake-bin wine
     wine64 xz-utils)
 
