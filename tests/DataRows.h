@@ -27,8 +27,8 @@ void addRows(std::initializer_list<const char *> columns,
 }
 
 /**
- * Calls the check with the values of one row after the other. Where it fails, the name of the row is told, and
- * the rows behind it are left out.
+ * Calls the check with the values of one row after the other. Where it fails, the name of the row is told,
+ * and the rows behind it are left out.
  */
 template <typename... Columns, typename Check>
 void forRows(const std::vector<std::tuple<const char *, Columns...>> &rows, Check check)

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QtCore/QByteArray>
-#include <QtCore/QFile>
 #include <QtCore/QtEndian>
 
 /** Makes WAV files byte by byte. */
@@ -42,12 +41,6 @@ inline QByteArray formatChunk(int tag, int channels, int bits, qint64 rate = 480
 inline QByteArray riff(const QByteArray &chunks)
 {
     return "RIFF" + number32(chunks.size() + 4) + "WAVE" + chunks;
-}
-
-inline bool write(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
 }
 
 } // namespace WavBytes

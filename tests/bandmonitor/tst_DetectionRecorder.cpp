@@ -1,15 +1,15 @@
 // SPDX-FileCopyrightText: 2026 The PYXRuntime developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "BandGenerator.h"
+#include "DataRows.h"
 #include "DetectionRecorder.h"
+#include "FileContents.h"
 #include "FileModel.h"
 #include "SignalMonitor.h"
 #include "WavReader.h"
 
 #include <PYXFileListImpl.h>
 
-#include <QtCore/QDir>
-#include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 
 #include <cmath>
@@ -72,9 +72,7 @@ private:
 
 void tst_DetectionRecorder::writesTableAndSnippet_data()
 {
-    QTest::addColumn<bool>("complex");
-    QTest::newRow("real") << false;
-    QTest::newRow("I/Q") << true;
+    addRows({"complex"}, Rows<bool>{{"real", false}, {"I/Q", true}});
 }
 
 void tst_DetectionRecorder::writesTableAndSnippet()
@@ -90,9 +88,7 @@ void tst_DetectionRecorder::writesTableAndSnippet()
             continue;
     }
     QCOMPARE(files("detections_*.csv").size(), 1);
-    QFile table(m_directory->filePath(files("detections_*.csv").first()));
-    QVERIFY(table.open(QIODevice::ReadOnly | QIODevice::Text));
-    const QList<QByteArray> lines = table.readAll().split('\n');
+    const QByteArrayList lines = get(m_directory->filePath(files("detections_*.csv").first())).split('\n');
     QCOMPARE(lines.size(), 4); // headings, on, off, and the end of the last line
     QVERIFY(lines.at(1).contains(",on,1,1000."));
     QVERIFY(lines.at(2).contains(",off,1,1000."));

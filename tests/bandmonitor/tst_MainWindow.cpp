@@ -9,6 +9,8 @@
 #include "SignalMonitor.h"
 #include "SignalPopups.h"
 
+#include "DataRows.h"
+#include "FileContents.h"
 #include "SettingsHome.h"
 #include "WavBytes.h"
 
@@ -18,18 +20,8 @@
 #include <PYXSingleInstance.h>
 #include <PYXTraceWrapper.h>
 
-#include <QtCore/QLocale>
-#include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
-#include <QtWidgets/QAction>
-#include <QtWidgets/QDockWidget>
-#include <QtWidgets/QFileDialog>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QMessageBox>
-#include <QtWidgets/QPlainTextEdit>
-#include <QtWidgets/QPushButton>
-#include <QtWidgets/QSpinBox>
-#include <QtWidgets/QTableView>
+#include <QtWidgets/QtWidgets>
 
 #include <cmath>
 #include <thread>
@@ -64,8 +56,6 @@ const QAbstractItemModel &tableOf(const QWidget &parent)
 
 } // namespace
 
-Q_DECLARE_METATYPE(QDialogButtonBox::StandardButton)
-
 class tst_MainWindow : public QObject
 {
     Q_OBJECT
@@ -75,24 +65,17 @@ private Q_SLOTS:
     {
         QLocale::setDefault(QLocale::c());
         m_path = m_directory.filePath("tones.wav");
-        QVERIFY(WavBytes::write(m_path, recording()));
+        put(m_path, recording());
     }
     void showsWhatIsInARecording();
     void playsInTime();
-    void complainsAboutWhatIsNoRecording();
     void goesOnAsItWasClosed();
     void refusesOddDetectorParameters();
-    void tellsWhereItsSettingsAre();
     void savesTheSignals();
-    void logsTracesOfOtherThreads();
-    void keepsTheLogBounded();
+    void logsTracesOfAllThreads();
     void keepsRowsOfKnownSignals();
-    void switchesModesByChords_data();
-    void switchesModesByChords();
     void keepsDeveloperDocksToDebugMode();
-    void asksBeforeARecordingEnds_data();
     void asksBeforeARecordingEnds();
-    void announcesNewSignals_data();
     void announcesNewSignals();
     void takesTheRecordingOfASecondStart();
 
@@ -137,18 +120,6 @@ void tst_MainWindow::playsInTime()
     QVERIFY(window.monitor()->time() < 2);
 }
 
-void tst_MainWindow::complainsAboutWhatIsNoRecording()
-{
-    MainWindow window;
-    window.openOwnBand();
-    const SignalMonitor *const before = window.monitor();
-    QVERIFY(!window.openRecording(m_directory.filePath("missing.wav")));
-    const auto *const box = window.findChild<QMessageBox *>();
-    QVERIFY(box != nullptr);
-    QVERIFY(box->informativeText().contains("missing.wav"));
-    QCOMPARE(window.monitor(), before);
-}
-
 void tst_MainWindow::goesOnAsItWasClosed()
 {
     const SettingsHome home;
@@ -188,6 +159,10 @@ void tst_MainWindow::goesOnAsItWasClosed()
     QTRY_VERIFY(window.monitor() != nullptr);
     window.playToEnd();
     QCOMPARE(tableOf(window).rowCount(), 1);
+    const SignalMonitor *const before = window.monitor();
+    QVERIFY(!window.openRecording(m_directory.filePath("missing.wav")));
+    QVERIFY(window.findChild<QMessageBox *>()->informativeText().contains("missing.wav"));
+    QCOMPARE(window.monitor(), before);
 }
 
 void tst_MainWindow::refusesOddDetectorParameters()
@@ -208,16 +183,6 @@ void tst_MainWindow::refusesOddDetectorParameters()
     QCOMPARE(clamped.largestGap, struDetectorParameters::WidestGap);
 }
 
-void tst_MainWindow::tellsWhereItsSettingsAre()
-{
-    const SettingsHome home;
-    MainWindow window;
-    window.findChild<QAction *>("aboutAction")->trigger();
-    const auto *const box = window.findChild<QMessageBox *>("aboutBox");
-    QVERIFY(box != nullptr);
-    QVERIFY(box->informativeText().contains(QDir::toNativeSeparators(home.path("user"))));
-}
-
 void tst_MainWindow::savesTheSignals()
 {
     QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
@@ -231,41 +196,30 @@ void tst_MainWindow::savesTheSignals()
         static_cast<QDialog *>(dialog)->accept();
     });
     window.findChild<QAction *>("saveAction")->trigger();
-    QFile saved(home.path("signals.csv"));
-    QVERIFY(saved.open(QIODevice::ReadOnly));
-    const QByteArrayList lines = saved.readAll().split('\n');
+    const QByteArrayList lines = get(home.path("signals.csv")).split('\n');
     QCOMPARE(lines.size(), 4); // headings, two signals, nothing after the last end of line
     QVERIFY(lines.at(1).startsWith("1.000 kHz,"));
 }
 
-void tst_MainWindow::logsTracesOfOtherThreads()
+void tst_MainWindow::logsTracesOfAllThreads()
 {
     const int before = PYXTraceWrapper::tracers().size();
     {
         const LogDock dock;
-        std::thread([] {
+        const auto flood = [] {
+            for (int i = 0; i < 5 * LogDock::MaximumLines; ++i)
+                PYXTraceWrapper::staticTraceInfo(QString::number(i), nullptr, 0);
             PYXTraceWrapper::staticTraceWarn(QString("antenna lost"), "source\\Rotor", 7);
-        }).join();
+        };
+        std::thread first(flood);
+        std::thread second(flood);
+        first.join();
+        second.join();
         QTRY_VERIFY(logOf(dock).contains("Rotor  antenna lost"));
         QVERIFY(!logOf(dock).contains("source"));
+        QVERIFY(dock.findChild<QPlainTextEdit *>()->blockCount() <= LogDock::MaximumLines);
     }
     QCOMPARE(PYXTraceWrapper::tracers().size(), before);
-}
-
-void tst_MainWindow::keepsTheLogBounded()
-{
-    const LogDock dock;
-    const auto flood = [] {
-        for (int i = 0; i < 5 * LogDock::MaximumLines; ++i)
-            PYXTraceWrapper::staticTraceInfo(QString::number(i), nullptr, 0);
-    };
-    std::thread first(flood);
-    std::thread second(flood);
-    first.join();
-    second.join();
-    PYXTraceWrapper::staticTraceInfo(QString("the end"), nullptr, 0);
-    QTRY_VERIFY(logOf(dock).contains("the end"));
-    QVERIFY(dock.findChild<QPlainTextEdit *>()->blockCount() <= LogDock::MaximumLines);
 }
 
 void tst_MainWindow::keepsRowsOfKnownSignals()
@@ -289,43 +243,6 @@ void tst_MainWindow::keepsRowsOfKnownSignals()
     QCOMPARE(model.rowCount(), 1);
 }
 
-void tst_MainWindow::switchesModesByChords_data()
-{
-    QTest::addColumn<Qt::Key>("lastKey");
-    QTest::addColumn<QString>("title");
-    QTest::addColumn<bool>("developer");
-    QTest::newRow("expert") << Qt::Key_E << "Band [expert]" << false;
-    QTest::newRow("debug") << Qt::Key_D << "Band [debug]" << true;
-}
-
-void tst_MainWindow::switchesModesByChords()
-{
-    QFETCH(Qt::Key, lastKey);
-    QFETCH(bool, developer);
-    QCoreApplication::setApplicationName("Band");
-    PYXAppInternalsSimple internals;
-    internals.initialize_PYXAppInternalsImpl();
-    MainWindow window;
-    window.followModes(&internals);
-    window.show();
-    QApplication::setActiveWindow(&window);
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-    const auto chord = [&] {
-        for (const Qt::Key key : {Qt::Key_A, Qt::Key_M, lastKey})
-            QTest::keyClick(&window, key, Qt::ControlModifier | Qt::ShiftModifier);
-    };
-    chord();
-    QTEST(window.windowTitle(), "title");
-    for (const char *const name : {"scopeDock", "brokerDock", "poolDock"}) {
-        const auto *const dock = window.findChild<QDockWidget *>(name);
-        QCOMPARE(!dock->isHidden(), developer);
-        QCOMPARE(dock->toggleViewAction()->isVisible(), developer);
-    }
-    chord();
-    QCOMPARE(window.windowTitle(), "Band");
-    QVERIFY(window.findChild<QDockWidget *>("poolDock")->isHidden());
-}
-
 void tst_MainWindow::keepsDeveloperDocksToDebugMode()
 {
     const SettingsHome home;
@@ -337,12 +254,25 @@ void tst_MainWindow::keepsDeveloperDocksToDebugMode()
         window.followModes(&internals);
         window.restoreSettings();
         window.show();
+        QVERIFY(window.windowTitle().endsWith(" [debug]"));
+        const auto isHidden = [&window](const char *name) {
+            const auto *const dock = window.findChild<QDockWidget *>(name);
+            return dock->isHidden() && !dock->toggleViewAction()->isVisible();
+        };
         auto *const broker = window.findChild<QDockWidget *>("brokerDock");
         QTRY_COMPARE(broker->findChild<QTableView *>()->model()->rowCount() > 0, true);
         window.addDockWidget(Qt::LeftDockWidgetArea, broker);
         window.findChild<QDockWidget *>("scopeDock")->close();
         internals.setAppModes(PYXAppInternalsSimple::ekAppMode_Expert);
         QVERIFY(window.findChild<QDockWidget *>("scopeDock")->isHidden()); // the user does not want it
+        QVERIFY(!isHidden("poolDock"));
+        internals.overrideAppModes(PYXAppInternalsSimple::ekAppMode_Expert);
+        QVERIFY(isHidden("brokerDock") && isHidden("scopeDock") && isHidden("poolDock"));
+        QVERIFY(window.windowTitle().endsWith(" [expert]"));
+        internals.setAppModes(PYXAppInternalsSimple::ekAppMode_Debug);
+        QVERIFY(!isHidden("poolDock"));
+        internals.overrideAppModes(0);
+        QVERIFY(!window.windowTitle().contains('['));
         window.close();
     }
     MainWindow window;
@@ -352,61 +282,52 @@ void tst_MainWindow::keepsDeveloperDocksToDebugMode()
     QCOMPARE(window.dockWidgetArea(broker), Qt::LeftDockWidgetArea);
 }
 
-void tst_MainWindow::asksBeforeARecordingEnds_data()
-{
-    QTest::addColumn<QDialogButtonBox::StandardButton>("suppressed");
-    QTest::addColumn<QDialogButtonBox::StandardButton>("answer"); // NoButton: must not ask
-    QTest::addColumn<bool>("closed");
-    QTest::newRow("stop") << QDialogButtonBox::NoButton << QDialogButtonBox::Yes << true;
-    QTest::newRow("go on") << QDialogButtonBox::NoButton << QDialogButtonBox::No << false;
-    QTest::newRow("stop for ever") << QDialogButtonBox::Yes << QDialogButtonBox::NoButton << true;
-    QTest::newRow("never stop") << QDialogButtonBox::No << QDialogButtonBox::Yes << true;
-}
-
 void tst_MainWindow::asksBeforeARecordingEnds()
 {
-    QFETCH(QDialogButtonBox::StandardButton, suppressed);
-    QFETCH(QDialogButtonBox::StandardButton, answer);
+    using Box = QDialogButtonBox;
     const SettingsHome home;
     qputenv("HOME", home.path("").toLocal8Bit()); // for the results
     PYXNotification::showAllMessagesAgain();
-    if (suppressed != QDialogButtonBox::NoButton)
-        PYXNotification::setWillShowMessage("BandMonitor", "CloseWhileRecording", false, suppressed);
     MainWindow window;
     QVERIFY(window.openRecording(m_path));
-    window.show();
-    window.setRecording(true);
-    auto asked = false;
-    QTimer::singleShot(0, &window, [&] {
-        auto *const question = window.findChild<PYXNotification *>();
-        asked = question != nullptr;
-        if (asked)
-            question->findChild<QDialogButtonBox *>()->button(answer)->click();
-    });
-    QTEST(window.close(), "closed");
-    QCOMPARE(asked, answer != QDialogButtonBox::NoButton);
-    QTEST(window.isHidden(), "closed");
-    QCOMPARE(window.findChild<QAction *>("recordAction")->isChecked(), !window.isHidden());
+    for (const auto answer : {Box::No, Box::Yes}) {
+        window.show();
+        window.setRecording(true);
+        QTimer::singleShot(0, &window, [&window, answer] {
+            window.findChild<PYXNotification *>()->findChild<Box *>()->button(answer)->click();
+        });
+        QCOMPARE(window.close(), answer == Box::Yes);
+        QCOMPARE(window.isHidden(), answer == Box::Yes);
+        QCOMPARE(window.findChild<QAction *>("recordAction")->isChecked(), answer == Box::No);
+    }
+    // "No, and never ask again" must not keep the window open for ever.
+    for (const auto stored : {Box::Yes, Box::No}) {
+        PYXNotification::setWillShowMessage("BandMonitor", "CloseWhileRecording", false, stored);
+        window.show();
+        window.setRecording(true);
+        bool bAsked = false;
+        QTimer::singleShot(0, &window, [&] {
+            auto *const question = window.findChild<PYXNotification *>();
+            bAsked = question != nullptr;
+            if (bAsked)
+                question->findChild<Box *>()->button(Box::Yes)->click();
+        });
+        QVERIFY(window.close());
+        QCOMPARE(bAsked, stored == Box::No);
+    }
     PYXNotification::showAllMessagesAgain();
-}
-
-void tst_MainWindow::announcesNewSignals_data()
-{
-    QTest::addColumn<QList<int>>("first");
-    QTest::addColumn<QList<int>>("then");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("one") << QList<int>{} << QList<int>{1} << "New signal at 1.000 kHz";
-    QTest::newRow("one after another")
-        << QList<int>{1} << QList<int>{1, 2} << "New signals at 1.000 kHz, 2.000 kHz";
-    QTest::newRow("fragment") << QList<int>{1, 2} << QList<int>{2} << "New signal at 2.000 kHz";
-    QTest::newRow("many") << QList<int>{} << QList<int>{1, 2, 3, 4, 5, 6}
-                          << "New signals at 1.000 kHz, 2.000 kHz, 3.000 kHz, 4.000 kHz and 2 more";
 }
 
 void tst_MainWindow::announcesNewSignals()
 {
-    QFETCH(QList<int>, first);
-    QFETCH(QList<int>, then);
+    const Rows<QList<int>, QList<int>, QString> rows = {
+        {"one", {}, {1}, "New signal at 1.000 kHz"},
+        {"one after another", {1}, {1, 2}, "New signals at 1.000 kHz, 2.000 kHz"},
+        {"fragment", {1, 2}, {2}, "New signal at 2.000 kHz"},
+        {"many",
+         {},
+         {1, 2, 3, 4, 5, 6},
+         "New signals at 1.000 kHz, 2.000 kHz, 3.000 kHz, 4.000 kHz and 2 more"}};
     const auto detections = [](const QList<int> &ids) {
         std::vector<struDetection> list(std::size_t(ids.size()));
         for (std::size_t i = 0; i < list.size(); ++i) {
@@ -415,18 +336,20 @@ void tst_MainWindow::announcesNewSignals()
         }
         return list;
     };
-    QWidget window;
-    SignalPopups popups(&window);
-    popups.setIntervals(50, 600'000);
-    QSignalSpy announced(&popups, &SignalPopups::si_announced);
-    popups.setDetections(detections({9})); // while it is disabled: no news
-    popups.setEnabled(true);
-    popups.setDetections(detections(QList<int>{9} + first));
-    popups.setDetections(detections(QList<int>{9} + then));
-    QTRY_COMPARE(announced.size(), 1);
-    QTEST(announced.at(0).at(0).toString().replace(QChar(QChar::Nbsp), ' '), "text");
-    popups.setDetections(detections({7, 8})); // too soon after
-    QVERIFY(!announced.wait(150));
+    forRows(rows, [&](const QList<int> &first, const QList<int> &then, const QString &text) {
+        QWidget window;
+        SignalPopups popups(&window);
+        popups.setIntervals(50, 600'000);
+        QSignalSpy announced(&popups, &SignalPopups::si_announced);
+        popups.setDetections(detections({9})); // while it is disabled: no news
+        popups.setEnabled(true);
+        popups.setDetections(detections(QList<int>{9} + first));
+        popups.setDetections(detections(QList<int>{9} + then));
+        QTRY_COMPARE(announced.size(), 1);
+        QCOMPARE(announced.at(0).at(0).toString().replace(QChar(QChar::Nbsp), ' '), text);
+        popups.setDetections(detections({7, 8})); // too soon after
+        QVERIFY(!announced.wait(150));
+    });
 }
 
 void tst_MainWindow::takesTheRecordingOfASecondStart()

@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "RecordingFetcher.h"
 
-#include <QtCore/QDir>
-#include <QtCore/QTemporaryDir>
+#include "DataRows.h"
+#include "FileContents.h"
+
 #include <QtNetwork/QTcpServer>
 #include <QtNetwork/QTcpSocket>
 #include <QtTest/QtTest>
@@ -64,7 +65,6 @@ class tst_RecordingFetcher : public QObject
 private slots:
     void init() { m_directory.reset(new QTemporaryDir); }
     void fetches();
-    void fails_data();
     void fails();
     void canBeGivenUp();
 
@@ -85,10 +85,9 @@ void tst_RecordingFetcher::fetches()
     QSignalSpy progress(&fetcher, &RecordingFetcher::si_progress);
     fetcher.fetch(m_server.url("good/..%5Codd%3Aname.wav"));
     QVERIFY(fetched.wait());
-    QFile file(fetched.at(0).at(0).toString());
-    QVERIFY2(file.fileName().endsWith("-.._odd_name.wav"), qPrintable(file.fileName()));
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QVERIFY(file.readAll() == Content);
+    const QString file = fetched.at(0).at(0).toString();
+    QVERIFY2(file.endsWith("-.._odd_name.wav"), qPrintable(file));
+    QVERIFY(get(file) == Content);
     QCOMPARE(progress.last(), QVariantList({qint64(Content.size()), qint64(Content.size())}));
 
     QUrl withPassword = m_server.url("private.wav");
@@ -109,42 +108,28 @@ void tst_RecordingFetcher::fetches()
     QVERIFY(fetched.wait());
 }
 
-void tst_RecordingFetcher::fails_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("reason");
-    QTest::newRow("not there") << "missing.wav"
-                               << "Not Found";
-    QTest::newRow("cut off") << "cut.wav"
-                             << "closed";
-    QTest::newRow("wrong password") << "private.wav"
-                                    << "authentication";
-    QTest::newRow("no directory") << "good.wav"
-                                  << "directory";
-}
-
 void tst_RecordingFetcher::fails()
 {
-    QFETCH(QString, path);
-    QFETCH(QString, reason);
-    QString directory = m_directory->path();
-    if (reason == "directory") {
-        QFile wall(m_directory->filePath("wall"));
-        QVERIFY(wall.open(QIODevice::WriteOnly));
-        directory = wall.fileName() + "/below";
-    }
-    RecordingFetcher fetcher(directory);
-    QSignalSpy failed(&fetcher, &RecordingFetcher::si_failed);
-    QSignalSpy fetched(&fetcher, &RecordingFetcher::si_fetched);
-    QUrl url = m_server.url(path);
-    url.setUserInfo("u:wrong");
-    fetcher.fetch(url);
-    QVERIFY(failed.wait());
-    const QString text = failed.at(0).at(0).toString();
-    QVERIFY2(text.contains(reason) || reason == "directory", qPrintable(text));
-    QVERIFY2(!text.contains("wrong"), qPrintable(text));
-    QCOMPARE(fetched.size(), 0);
-    QCOMPARE(files().size(), reason == "directory" ? 1 : 0);
+    put(m_directory->filePath("wall"), {});
+    const QString below = m_directory->filePath("wall/below");
+    const Rows<QString, QString, QString> rows = {
+        {"not there", m_directory->path(), "missing.wav", "Not Found"},
+        {"cut off", m_directory->path(), "cut.wav", "closed"},
+        {"wrong password", m_directory->path(), "private.wav", "authentication"},
+        {"no directory", below, "good.wav", ""}};
+    forRows(rows, [this](const QString &directory, const QString &path, const QString &reason) {
+        RecordingFetcher fetcher(directory);
+        QSignalSpy failed(&fetcher, &RecordingFetcher::si_failed);
+        QSignalSpy fetched(&fetcher, &RecordingFetcher::si_fetched);
+        QUrl url = m_server.url(path);
+        url.setUserInfo("u:wrong");
+        fetcher.fetch(url);
+        QVERIFY(failed.wait());
+        const QString text = failed.at(0).at(0).toString();
+        QVERIFY2(text.contains(reason) && !text.contains("wrong"), qPrintable(text));
+        QCOMPARE(fetched.size(), 0);
+        QCOMPARE(files(), QStringList("wall"));
+    });
 }
 
 void tst_RecordingFetcher::canBeGivenUp()

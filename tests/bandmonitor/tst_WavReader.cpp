@@ -2,11 +2,10 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "WavReader.h"
 
+#include "DataRows.h"
+#include "FileContents.h"
 #include "WavBytes.h"
 
-#include <PYXTraceWrapper.h>
-
-#include <QtCore/QTemporaryDir>
 #include <QtTest/QtTest>
 
 #include <cctype>
@@ -46,138 +45,113 @@ class tst_WavReader : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void readsEveryFormat_data();
     void readsEveryFormat();
-    void tellsWhatIsWrong_data();
     void tellsWhatIsWrong();
     void survivesBeingCutAtEveryByte();
     void readsInBlocks();
-    void refusesWhatIsNoFile();
 
 private:
     std::unique_ptr<WavReader> _open(const QByteArray &bytes)
     {
-        const QString path = m_directory.filePath("test.wav");
+        put(m_directory.filePath("test.wav"), bytes);
         m_error.clear();
-        return write(path, bytes) ? WavReader::open(path, &m_error) : nullptr;
+        return WavReader::open(m_directory.filePath("test.wav"), &m_error);
     }
 
     QTemporaryDir m_directory;
     QString m_error;
 };
 
-void tst_WavReader::readsEveryFormat_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QVector<float>>("expected");
-    QTest::addColumn<bool>("complex");
-
-    const auto add = [](const char *name, const QByteArray &chunks, const QVector<float> &expected,
-                        bool complex = false) { QTest::newRow(name) << riff(chunks) << expected << complex; };
-    const QByteArray pcm16 = formatChunk(1, 1, 16);
-    const QByteArray two = number16(-16384) + number16(8192);
-    add("8 bit", formatChunk(1, 1, 8) + chunk("data", QByteArray("\x00\x80\xc0", 3)), {-1, 0, 0.5});
-    add("16 bit", pcm16 + chunk("data", number16(-32768) + two), {-1, -0.5, 0.25});
-    add("24 bit", formatChunk(1, 1, 24) + chunk("data", number24(-8388608) + number24(1) + number24(4194304)),
-        {-1, 1 / 8388608.0F, 0.5});
-    add("32 bit", formatChunk(1, 1, 32) + chunk("data", number(qint32(INT_MIN)) + number(qint32(0x40000000))),
-        {-1, 0.5});
-    add("32 bit float", formatChunk(3, 1, 32) + chunk("data", number(-0.25F) + number(1.5F)), {-0.25, 1.5});
-    add("64 bit float", formatChunk(3, 1, 64) + chunk("data", number(-0.25) + number(1e300)), {-0.25, 1e9F});
-    add("float that is no number",
-        formatChunk(3, 1, 32) + chunk("data", number(std::numeric_limits<float>::quiet_NaN()) + number(0.5F)),
-        {0, 0.5});
-    add("I/Q", formatChunk(1, 2, 16) + chunk("data", two + two), {-0.5, 0.25, -0.5, 0.25}, true);
-    add("extensible PCM", extensible(1, 16, KnownTail) + chunk("data", two), {-0.5, 0.25});
-    add("extensible float", extensible(3, 32, KnownTail) + chunk("data", number(0.125F)), {0.125});
-    add("other chunks of odd size", chunk("LIST", "odd") + pcm16 + chunk("fact", "x") + chunk("data", two),
-        {-0.5, 0.25});
-    add("chunks after the data", pcm16 + chunk("data", two) + chunk("LIST", "abcd"), {-0.5, 0.25});
-    add("data length of zero", pcm16 + "data" + number32(0) + two, {-0.5, 0.25});
-    add("data length of the largest number", pcm16 + "data" + number32(0xffffffff) + two, {-0.5, 0.25});
-    add("data length beyond the end", pcm16 + "data" + number32(1000000000) + two, {-0.5, 0.25});
-    add("half a sample at the end", pcm16 + "data" + number32(5) + two + "x", {-0.5, 0.25});
-    const QByteArray ds64 = chunk("ds64", number(qint64(0)) + number(qint64(4)) + number(qint64(2)));
-    QTest::newRow("RF64") << riff(ds64 + pcm16 + "data" + number32(0xffffffff) + two + chunk("LIST", "abcd"))
-                                 .replace(0, 4, "RF64")
-                          << QVector<float>{-0.5, 0.25} << false;
-}
-
 void tst_WavReader::readsEveryFormat()
 {
-    QFETCH(QByteArray, bytes);
-    QFETCH(QVector<float>, expected);
-    QFETCH(bool, complex);
-    const auto reader = _open(bytes);
-    QVERIFY2(reader, qPrintable(m_error));
-    QCOMPARE(reader->sampleRate(), 48000.0);
-    QCOMPARE(reader->isComplex(), complex);
-    if (std::isdigit(*QTest::currentDataTag()) != 0)
-        QCOMPARE(reader->coding(), QString(QTest::currentDataTag()));
-    QVector<float> values;
-    for (const Sample &sample : samplesOf(*reader)) {
-        values += sample.real();
-        if (complex)
-            values += sample.imag();
-        else
-            QCOMPARE(sample.imag(), 0.0F);
-    }
-    QCOMPARE(values, expected);
-}
-
-void tst_WavReader::tellsWhatIsWrong_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QString>("complaint");
-
-    const QByteArray samples = chunk("data", QByteArray(64, 'x'));
     const QByteArray pcm16 = formatChunk(1, 1, 16);
-    const auto add = [](const char *name, const QByteArray &bytes, const char *complaint) {
-        QTest::newRow(name) << bytes << QString::fromUtf8(complaint);
-    };
-    const auto addFormat = [&](const char *name, const QByteArray &format, const char *complaint) {
-        add(name, riff(format + samples), complaint);
-    };
-    add("empty", "", "is empty");
-    add("text", "Dear Sir or Madam, ", "is not a WAV file");
-    add("other RIFF file", riff({}).replace(8, 4, "AVI "), "is a RIFF file of type \"AVI \", not a WAV file");
-    add("big-endian", riff({}).replace(0, 4, "RIFX"), "is a big-endian WAV file, which is not supported");
-    add("cut in the first bytes", riff({}).left(9), "is cut off within its first 12 bytes");
-    add("nothing inside", riff({}), "has no format chunk");
-    add("no samples chunk", riff(pcm16), "has no data chunk");
-    add("no samples", riff(pcm16 + chunk("data", {})), "holds no samples");
-    add("less than a sample", riff(pcm16 + "data" + number32(1) + "x"), "holds no samples");
-    add("samples first", riff(samples + pcm16), "has no format chunk before its samples");
-    add("format cut", riff(pcm16).left(30), "ends inside its chunk \"fmt \", before any samples");
-    add("chunk that claims too much", riff(pcm16 + "LI\x01T" + number32(0xfffffff0) + "x"),
-        "ends inside its chunk \"LI?T\", before any samples");
-    addFormat("short format", chunk("fmt ", "1234"), "has a format chunk of only 4 bytes");
-    addFormat("short extensible", formatChunk(0xfffe, 1, 16),
-              "has an extensible format chunk of only 16 bytes");
-    addFormat("unknown sub-format", extensible(1, 16, QByteArray(14, 'x')),
-              "has samples in an unknown coding");
-    addFormat("MP3", formatChunk(0x55, 1, 16),
-              "is compressed (MPEG); only PCM and float samples can be read");
-    addFormat("unknown tag", formatChunk(0x1234, 1, 16),
-              "is compressed (0x1234); only PCM and float samples can be read");
-    addFormat("no channels", formatChunk(1, 0, 16), "has 0 channels; it takes one (real) or two (I/Q)");
-    addFormat("six channels", formatChunk(1, 6, 16), "has 6 channels; it takes one (real) or two (I/Q)");
-    addFormat("no rate", formatChunk(1, 1, 16, 0), "claims a sample rate of zero");
-    addFormat("odd PCM", formatChunk(1, 1, 12), "has PCM samples of 12 bits");
-    addFormat("odd float", formatChunk(3, 1, 16), "has float samples of 16 bits");
-    addFormat("block size that does not fit", QByteArray(pcm16).replace(20, 2, number16(7)),
-              "claims 7 bytes for samples that take 2");
-    add("chunks without end", riff(chunk("junk", {}).repeated(2000)),
-        "has more than 1000 chunks before its samples");
+    const QByteArray two = number16(-16384) + number16(8192);
+    const QByteArray ds64 = chunk("ds64", number(qint64(0)) + number(qint64(4)) + number(qint64(2)));
+    const QVector<float> values{-0.5, 0.25};
+    const auto noNumber = number(std::numeric_limits<float>::quiet_NaN());
+    const Rows<QByteArray, QVector<float>> rows = {
+        {"8 bit", formatChunk(1, 1, 8) + chunk("data", QByteArray("\x00\x80\xc0", 3)), {-1, 0, 0.5}},
+        {"16 bit", pcm16 + chunk("data", number16(-32768) + two), {-1, -0.5, 0.25}},
+        {"24 bit",
+         formatChunk(1, 1, 24) + chunk("data", number24(-8388608) + number24(1) + number24(4194304)),
+         {-1, 1 / 8388608.0F, 0.5}},
+        {"32 bit",
+         formatChunk(1, 1, 32) + chunk("data", number(qint32(INT_MIN)) + number(qint32(0x40000000))),
+         {-1, 0.5}},
+        {"32 bit float", formatChunk(3, 1, 32) + chunk("data", number(-0.25F) + number(1.5F)), {-0.25, 1.5}},
+        {"64 bit float", formatChunk(3, 1, 64) + chunk("data", number(-0.25) + number(1e300)), {-0.25, 1e9F}},
+        {"float that is none", formatChunk(3, 1, 32) + chunk("data", noNumber + number(0.5F)), {0, 0.5}},
+        {"I/Q", formatChunk(1, 2, 16) + chunk("data", two + two), {-0.5, 0.25, -0.5, 0.25}},
+        {"extensible PCM", extensible(1, 16, KnownTail) + chunk("data", two), values},
+        {"extensible float", extensible(3, 32, KnownTail) + chunk("data", number(0.125F)), {0.125}},
+        {"odd sizes", chunk("LIST", "odd") + pcm16 + chunk("fact", "x") + chunk("data", two), values},
+        {"chunks after the data", pcm16 + chunk("data", two) + chunk("LIST", "abcd"), values},
+        {"data length of zero", pcm16 + "data" + number32(0) + two, values},
+        {"data length of the largest number", pcm16 + "data" + number32(0xffffffff) + two, values},
+        {"data length beyond the end", pcm16 + "data" + number32(1000000000) + two, values},
+        {"half a sample at the end", pcm16 + "data" + number32(5) + two + "x", values},
+        {"RF64", ds64 + pcm16 + "data" + number32(0xffffffff) + two + chunk("LIST", "abcd"), values}};
+    for (const auto &[name, chunks, expected] : rows) {
+        const auto reader = _open(riff(chunks).replace(0, 4, qstrcmp(name, "RF64") == 0 ? "RF64" : "RIFF"));
+        QVERIFY2(reader, qPrintable(name + m_error));
+        QCOMPARE(reader->sampleRate(), 48000.0);
+        QCOMPARE(reader->isComplex(), qstrcmp(name, "I/Q") == 0);
+        if (std::isdigit(*name) != 0)
+            QCOMPARE(reader->coding(), QString(name));
+        QVector<float> found;
+        for (const Sample &sample : samplesOf(*reader)) {
+            found += sample.real();
+            if (reader->isComplex())
+                found += sample.imag();
+            else
+                QCOMPARE(sample.imag(), 0.0F);
+        }
+        QCOMPARE(found, expected);
+    }
 }
 
 void tst_WavReader::tellsWhatIsWrong()
 {
-    QFETCH(QByteArray, bytes);
-    QFETCH(QString, complaint);
-    QVERIFY(!_open(bytes));
-    QVERIFY(m_error.contains("test.wav"));
-    QCOMPARE(m_error.section("\" ", 1), complaint + '.');
+    const QByteArray samples = chunk("data", QByteArray(64, 'x'));
+    const QByteArray pcm16 = formatChunk(1, 1, 16);
+    const auto check = [&](const QByteArray &bytes, const QString &complaint) {
+        QVERIFY2(!_open(bytes), qPrintable(complaint));
+        QVERIFY(m_error.contains("test.wav"));
+        QCOMPARE(m_error.section("\" ", 1), complaint + '.');
+    };
+    check("", "is empty");
+    check("Dear Sir or Madam, ", "is not a WAV file");
+    check(riff({}).replace(8, 4, "AVI "), "is a RIFF file of type \"AVI \", not a WAV file");
+    check(riff({}).replace(0, 4, "RIFX"), "is a big-endian WAV file, which is not supported");
+    check(riff({}).left(9), "is cut off within its first 12 bytes");
+    check(riff({}), "has no format chunk");
+    check(riff(pcm16), "has no data chunk");
+    check(riff(pcm16 + chunk("data", {})), "holds no samples");
+    check(riff(pcm16 + "data" + number32(1) + "x"), "holds no samples");
+    check(riff(samples + pcm16), "has no format chunk before its samples");
+    check(riff(pcm16).left(30), "ends inside its chunk \"fmt \", before any samples");
+    check(riff(pcm16 + "LI\x01T" + number32(0xfffffff0) + "x"),
+          "ends inside its chunk \"LI?T\", before any samples");
+    check(riff(chunk("junk", {}).repeated(2000)), "has more than 1000 chunks before its samples");
+
+    const auto checkFormat = [&](const QByteArray &format, const char *complaint) {
+        check(riff(format + samples), complaint);
+    };
+    checkFormat(chunk("fmt ", "1234"), "has a format chunk of only 4 bytes");
+    checkFormat(formatChunk(0xfffe, 1, 16), "has an extensible format chunk of only 16 bytes");
+    checkFormat(extensible(1, 16, QByteArray(14, 'x')), "has samples in an unknown coding");
+    checkFormat(formatChunk(0x55, 1, 16), "is compressed (MPEG); only PCM and float samples can be read");
+    checkFormat(formatChunk(0x1234, 1, 16), "is compressed (0x1234); only PCM and float samples can be read");
+    checkFormat(formatChunk(1, 0, 16), "has 0 channels; it takes one (real) or two (I/Q)");
+    checkFormat(formatChunk(1, 6, 16), "has 6 channels; it takes one (real) or two (I/Q)");
+    checkFormat(formatChunk(1, 1, 16, 0), "claims a sample rate of zero");
+    checkFormat(formatChunk(1, 1, 12), "has PCM samples of 12 bits");
+    checkFormat(formatChunk(3, 1, 16), "has float samples of 16 bits");
+    checkFormat(QByteArray(pcm16).replace(20, 2, number16(7)), "claims 7 bytes for samples that take 2");
+
+    QVERIFY(!WavReader::open(m_directory.path(), &m_error) && m_error.endsWith("\" is not a file."));
+    QVERIFY(!WavReader::open(m_directory.filePath("missing.wav"), &m_error));
+    QVERIFY(m_error.contains("\" cannot be opened: "));
 }
 
 void tst_WavReader::survivesBeingCutAtEveryByte()
@@ -208,14 +182,6 @@ void tst_WavReader::readsInBlocks()
         for (std::size_t i = 0; i < count; ++i)
             QCOMPARE(block[i].real() * 32768, float(expected++));
     }
-}
-
-void tst_WavReader::refusesWhatIsNoFile()
-{
-    QVERIFY(!WavReader::open(m_directory.path(), &m_error));
-    QVERIFY(m_error.endsWith("\" is not a file."));
-    QVERIFY(!WavReader::open(m_directory.filePath("missing.wav"), &m_error));
-    QVERIFY(m_error.contains("\" cannot be opened: "));
 }
 
 QTEST_GUILESS_MAIN(tst_WavReader)

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The PYXRuntime developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
+#include "FileContents.h"
 #include "PYXRecentFilesMenu.h"
 #include "SettingsHome.h"
 
@@ -28,9 +29,7 @@ private:
     static QString touch(const QString &path)
     {
         QDir().mkpath(QFileInfo(path).path());
-        QFile file(path);
-        if (!file.open(QIODevice::WriteOnly))
-            qFatal("cannot write %s", qPrintable(path));
+        put(path, {});
         return path;
     }
 };

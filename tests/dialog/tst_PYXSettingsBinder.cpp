@@ -1,22 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The PYXRuntime developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
+#include "DataRows.h"
 #include "PYXSettings.h"
 #include "PYXSettingsBinder.h"
 #include "RecordingTracer.h"
 #include "SettingsHome.h"
 
 #include <QtTest/QtTest>
-#include <QtWidgets/QButtonGroup>
-#include <QtWidgets/QCheckBox>
-#include <QtWidgets/QDateTimeEdit>
-#include <QtWidgets/QDoubleSpinBox>
-#include <QtWidgets/QFontComboBox>
-#include <QtWidgets/QGroupBox>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QPlainTextEdit>
-#include <QtWidgets/QRadioButton>
-#include <QtWidgets/QSlider>
+#include <QtWidgets/QtWidgets>
 
 using namespace PYXRuntime;
 
@@ -66,95 +57,79 @@ struct Widgets
     PYXSettingsBinder binder;
 };
 
-Q_DECLARE_METATYPE(std::function<void(Widgets &)>)
-
 class tst_PYXSettingsBinder : public QObject
 {
     Q_OBJECT
 private slots:
-    void everyKindOfWidget_data();
     void everyKindOfWidget();
-    void whatCannotBeShown_data();
     void whatCannotBeShown();
     void untouchedValuesFollowTheDefaults();
     void whatCannotBeBound();
 };
 
-void tst_PYXSettingsBinder::everyKindOfWidget_data()
-{
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<std::function<void(Widgets &)>>("edit");
-    QTest::addColumn<QVariant>("value");
-    const auto row = [](const char *key, const QVariant &value, auto edit) {
-        QTest::newRow(key) << key << std::function<void(Widgets &)>(edit) << value;
-    };
-    row("Check", false, [](Widgets &w) { w.check.click(); });
-    row("Group", true, [](Widgets &w) { w.group.setChecked(true); });
-    row("Line", "textx", [](Widgets &w) { QTest::keyClicks(&w.line, "x"); });
-    row("Plain", "y", [](Widgets &w) { QTest::keyClicks(&w.plain, "y"); });
-    row("Number", 4, [](Widgets &w) { w.number.stepUp(); });
-    row("Real", 0.5, [](Widgets &w) { w.real.stepDown(); });
-    row("Slider", 8, [](Widgets &w) { w.slider.setValue(8); });
-    row("Time", QDateTime(QDate(2021, 2, 2), {}), [](Widgets &w) { w.time.setDate(QDate(2021, 2, 2)); });
-    row("Data", "blue", [](Widgets &w) { QTest::keyClick(&w.byData, Qt::Key_Down); });
-    row("Text", "blue", [](Widgets &w) { QTest::keyClick(&w.byText, Qt::Key_Down); });
-    row("Index", 2, [](Widgets &w) { QTest::keyClick(&w.byIndex, Qt::Key_Down); });
-    row("Font", "Nowhere", [](Widgets &w) { w.font.setEditText("Nowhere"); });
-    row("Colour", 3, [](Widgets &w) { w.colours.button(3)->setChecked(true); });
-}
-
 void tst_PYXSettingsBinder::everyKindOfWidget()
 {
-    QFETCH(QString, key);
-    QFETCH(std::function<void(Widgets &)>, edit);
-    const SettingsHome home;
-    PYXSettings store(PYXSettings::eUserApplicationSettings);
-    Widgets widgets;
-    QSignalSpy modified(&widgets.binder, &PYXSettingsBinder::si_modified);
-    widgets.binder.load(&store);
-    QVERIFY(modified.isEmpty() && widgets.binder.isUnmodified(&store) && store.allKeys(true).isEmpty());
-    edit(widgets);
-    QVERIFY(!modified.isEmpty() && !widgets.binder.isUnmodified(&store));
-    QCOMPARE(widgets.binder.store(&store), QStringList(key));
-    QTEST(store.value(key), "value");
-    QVERIFY(widgets.binder.isUnmodified(&store));
-    store.sync();
-    Widgets others; // and from the file
-    PYXSettings sameStore(store.fileName());
-    others.binder.load(&sameStore);
-    QVERIFY(others.binder.isUnmodified(&store));
-    widgets.binder.load(nullptr);
-    QVERIFY(!widgets.binder.isUnmodified(&store));
-}
-
-void tst_PYXSettingsBinder::whatCannotBeShown_data()
-{
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QVariant>("value");
-    QTest::newRow("number out of range") << "Number" << QVariant(500);
-    QTest::newRow("number as text") << "Number" << QVariant("5");
-    QTest::newRow("more digits than shown") << "Real" << QVariant(0.12345);
-    QTest::newRow("date out of range") << "Time" << QVariant(QDateTime(QDate(1900, 1, 1), {}));
-    QTest::newRow("no date") << "Time" << QVariant("never");
-    QTest::newRow("unknown item") << "Data" << QVariant("mauve");
-    QTest::newRow("unknown text") << "Text" << QVariant("mauve");
-    QTest::newRow("no such index") << "Index" << QVariant(17);
-    QTest::newRow("no such button") << "Colour" << QVariant(17);
-    QTest::newRow("truth as text") << "Check" << QVariant("false");
+    using Edit = std::function<void(Widgets &)>;
+    // The key, its value afterwards.
+    const Rows<QVariant, Edit> rows = {
+        {"Check", false, [](Widgets &w) { w.check.click(); }},
+        {"Group", true, [](Widgets &w) { w.group.setChecked(true); }},
+        {"Line", "textx", [](Widgets &w) { QTest::keyClicks(&w.line, "x"); }},
+        {"Plain", "y", [](Widgets &w) { QTest::keyClicks(&w.plain, "y"); }},
+        {"Number", 4, [](Widgets &w) { w.number.stepUp(); }},
+        {"Real", 0.5, [](Widgets &w) { w.real.stepDown(); }},
+        {"Slider", 8, [](Widgets &w) { w.slider.setValue(8); }},
+        {"Time", QDateTime(QDate(2021, 2, 2), {}), [](Widgets &w) { w.time.setDate(QDate(2021, 2, 2)); }},
+        {"Data", "blue", [](Widgets &w) { QTest::keyClick(&w.byData, Qt::Key_Down); }},
+        {"Text", "blue", [](Widgets &w) { QTest::keyClick(&w.byText, Qt::Key_Down); }},
+        {"Index", 2, [](Widgets &w) { QTest::keyClick(&w.byIndex, Qt::Key_Down); }},
+        {"Font", "Nowhere", [](Widgets &w) { w.font.setEditText("Nowhere"); }},
+        {"Colour", 3, [](Widgets &w) { w.colours.button(3)->setChecked(true); }}};
+    for (const auto &[key, value, edit] : rows) {
+        const SettingsHome home;
+        PYXSettings store(PYXSettings::eUserApplicationSettings);
+        Widgets widgets;
+        QSignalSpy modified(&widgets.binder, &PYXSettingsBinder::si_modified);
+        widgets.binder.load(&store);
+        QVERIFY2(modified.isEmpty() && widgets.binder.isUnmodified(&store), key);
+        QVERIFY2(store.allKeys(true).isEmpty(), key);
+        edit(widgets);
+        QVERIFY2(!modified.isEmpty() && !widgets.binder.isUnmodified(&store), key);
+        QCOMPARE(widgets.binder.store(&store), QStringList(key));
+        QCOMPARE(store.value(key), value);
+        QVERIFY2(widgets.binder.isUnmodified(&store), key);
+        store.sync();
+        Widgets others; // and from the file
+        PYXSettings sameStore(store.fileName());
+        others.binder.load(&sameStore);
+        QVERIFY2(others.binder.isUnmodified(&store), key);
+        widgets.binder.load(nullptr);
+        QVERIFY2(!widgets.binder.isUnmodified(&store), key);
+    }
 }
 
 void tst_PYXSettingsBinder::whatCannotBeShown()
 {
-    QFETCH(QString, key);
-    QFETCH(QVariant, value);
-    const SettingsHome home;
-    PYXSettings store(PYXSettings::eUserApplicationSettings);
-    store.setValue(key, value);
-    Widgets widgets;
-    widgets.binder.load(&store);
-    QVERIFY(widgets.binder.isUnmodified(&store));
-    QVERIFY(widgets.binder.store(&store).isEmpty());
-    QCOMPARE(store.value(key), value); // nothing lost that the user has not touched
+    const std::pair<const char *, QVariant> values[] = {{"Number", 500},   // out of range
+                                                        {"Number", "5"},   // as a text
+                                                        {"Real", 0.12345}, // more digits than are shown
+                                                        {"Time", QDateTime(QDate(1900, 1, 1), {})},
+                                                        {"Time", "never"}, // no date
+                                                        {"Data", "mauve"}, // no such item
+                                                        {"Text", "mauve"},
+                                                        {"Index", 17},
+                                                        {"Colour", 17}, // no such button
+                                                        {"Check", "false"}};
+    for (const auto &[key, value] : values) {
+        const SettingsHome home;
+        PYXSettings store(PYXSettings::eUserApplicationSettings);
+        store.setValue(key, value);
+        Widgets widgets;
+        widgets.binder.load(&store);
+        QVERIFY2(widgets.binder.isUnmodified(&store), qPrintable(key + value.toString()));
+        QVERIFY(widgets.binder.store(&store).isEmpty());
+        QCOMPARE(store.value(key), value); // nothing lost that the user has not touched
+    }
 }
 
 void tst_PYXSettingsBinder::untouchedValuesFollowTheDefaults()

@@ -1,23 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The PYXRuntime developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
+#include "DataRows.h"
+#include "DialogRun.h"
 #include "FieldPage.h"
 #include "PYXBrokerRegistration.h"
 #include "PYXInterfaceIdentifiers.h"
-#include "PYXSettingsDialog.h"
-#include "RecordingTracer.h"
-#include "SettingsHome.h"
 
 #include <QtGui/QAccessible>
-#include <QtGui/QScreen>
 #include <QtTest/QtTest>
-#include <QtWidgets/QAction>
-#include <QtWidgets/QApplication>
-#include <QtWidgets/QDialogButtonBox>
-#include <QtWidgets/QMessageBox>
-#include <QtWidgets/QPushButton>
-#include <QtWidgets/QSplitter>
-#include <QtWidgets/QStackedWidget>
-#include <QtWidgets/QTreeWidget>
+#include <QtWidgets/QtWidgets>
 
 using namespace PYXRuntime;
 using Box = QDialogButtonBox;
@@ -37,12 +28,11 @@ signals:
 };
 
 /** A dialog with the pages A and B in the category "Z", C in "Y", and D without one. */
-class Fixture
+class Fixture : public DialogRun
 {
 public:
     Fixture()
     {
-        PYXTraceWrapper::addTracer(&quiet);
         for (FieldPage *const page : {b, a, c, d})
             dialog.registerSettingsHandler(page);
     }
@@ -50,20 +40,6 @@ public:
     {
         if (dialog.isVisible())
             qFatal("still running");
-    }
-
-    /** Runs the dialog; the function is called inside its loop and may leave it running: it is closed then.
-     */
-    template <typename Function>
-    int run(Function inside, PYXSettingsHandlerWidget *page = nullptr)
-    {
-        QTimer::singleShot(0, &dialog, [&] {
-            if (QTest::qWaitForWindowActive(&dialog))
-                inside();
-            if (dialog.isVisible())
-                dialog.done(-1);
-        });
-        return dialog.exec(settings, defaults, shared, sharedDefaults, page);
     }
 
     QTreeWidget *tree() { return dialog.findChild<QTreeWidget *>("m_SettingsTree"); }
@@ -97,10 +73,6 @@ public:
         return texts.join(' ');
     }
 
-    QPushButton *button(const QString &box, Box::StandardButton which)
-    {
-        return dialog.findChild<Box *>("m_ButtonBox" + box)->button(which);
-    }
     /** Names of the buttons that are enabled and shown; those of the page in small letters. */
     QString usableButtons()
     {
@@ -122,14 +94,16 @@ public:
         return names.join(' ');
     }
     void press(const QString &box, Box::StandardButton which) { button(box, which)->click(); }
+    void changeStyle()
+    {
+        QEvent styleChange(QEvent::StyleChange);
+        auto widgets = dialog.findChildren<QWidget *>();
+        widgets += &dialog;
+        for (QWidget *const widget : qAsConst(widgets))
+            QCoreApplication::sendEvent(widget, &styleChange);
+        QCoreApplication::sendPostedEvents(&dialog);
+    }
 
-    RecordingTracer quiet;
-    SettingsHome home;
-    PYXSettings settings{PYXSettings::eUserApplicationSettings};
-    PYXSettings defaults{PYXSettings::eDefaultApplicationSettings};
-    PYXSettings shared{PYXSettings::eUserSharedSettings};
-    PYXSettings sharedDefaults{PYXSettings::eDefaultSharedSettings};
-    PYXSettingsDialog dialog;
     FieldPage *const a = new FieldPage("Z", "A");
     FieldPage *const b = new FieldPage("Z", "B");
     FieldPage *const c = new FieldPage("Y", "C");
@@ -178,8 +152,7 @@ private slots:
     void pagesAndCategories();
     void buttonsFollowTheState_data();
     void buttonsFollowTheState();
-    void clickingThroughTheTree();
-    void keysThroughTheTree();
+    void movingThroughTheTree();
     void aPageWithErrorsIsNotLeft();
     void applying();
     void resettingAndRestoring();
@@ -189,9 +162,11 @@ private slots:
     void searching();
     void helpAndLanguage();
     void pagesComeAndGoWhileRunning();
-    void theDialogGoesWhileItAsks_data();
     void theDialogGoesWhileItAsks();
     void everyControlHasANameAndItsTurn();
+    void modificationsCanBeIgnored();
+    void blockingLeavesThePageItself();
+    void textsComeWithTheEventLoop();
 };
 
 void tst_PYXSettingsDialog::pagesAndCategories()
@@ -228,67 +203,40 @@ void tst_PYXSettingsDialog::pagesAndCategories()
 
 void tst_PYXSettingsDialog::buttonsFollowTheState_data()
 {
-    QTest::addColumn<QString>("valueOfA"); // which is shown
-    QTest::addColumn<QString>("valueOfC");
-    QTest::addColumn<QString>("hidden");
-    QTest::addColumn<QString>("usable");
-    QTest::newRow("as stored and as by default") << "same"
-                                                 << "same"
-                                                 << ""
-                                                 << "Close";
-    QTest::newRow("as stored") << "stored"
-                               << "same"
-                               << ""
-                               << "defaults Close Defaults";
-    QTest::newRow("this page modified") << "new"
-                                        << "same"
-                                        << ""
-                                        << "apply reset defaults OK Discard Apply Reset Defaults";
-    QTest::newRow("another page modified") << "same"
-                                           << "new"
-                                           << ""
-                                           << "OK Discard Apply Reset Defaults";
-    QTest::newRow("another page not by default") << "same"
-                                                 << "stored"
-                                                 << ""
-                                                 << "Close Defaults";
-    QTest::newRow("this page brought to its defaults") << "default"
-                                                       << "same"
-                                                       << ""
-                                                       << "apply reset OK Discard Apply Reset";
     const QString all = "apply reset defaults OK Discard Apply Reset Defaults";
-    for (const auto &[key, name] :
-         {std::pair("ApplyPage", "apply "), std::pair("ResetPage", "reset "), std::pair("ApplyAll", "Apply "),
-          std::pair("ResetAll", "Reset "), std::pair("RestoreDefaultsAll", " Defaults")})
-        QTest::newRow(key) << "new"
-                           << "same" << QString("::PYXSettingsDialog::/hide%1Button").arg(key)
-                           << QString(all).remove(name);
+    // Of A, which is shown, and of C; the usable buttons.
+    const Rows<QString, QString, QString> rows = {
+        {"as stored and as by default", "same", "same", "Close"},
+        {"as stored", "stored", "same", "defaults Close Defaults"},
+        {"this page modified", "new", "same", all},
+        {"another page modified", "same", "new", "OK Discard Apply Reset Defaults"},
+        {"another page not by default", "same", "stored", "Close Defaults"},
+        {"this page brought to its defaults", "default", "same", "apply reset OK Discard Apply Reset"},
+        {"ApplyPage", "new", "same", QString(all).remove("apply ")},
+        {"ResetPage", "new", "same", QString(all).remove("reset ")},
+        {"ApplyAll", "new", "same", QString(all).remove("Apply ")},
+        {"ResetAll", "new", "same", QString(all).remove("Reset ")},
+        {"RestoreDefaultsAll", "new", "same", QString(all).remove(" Defaults")}};
+    addRows({"valueOfA", "valueOfC", "usable"}, rows);
 }
 
 void tst_PYXSettingsDialog::buttonsFollowTheState()
 {
     QFETCH(QString, valueOfA);
     QFETCH(QString, valueOfC);
-    QFETCH(QString, hidden);
     Fixture f;
     const std::pair<FieldPage *, QString> pages[] = {{f.a, valueOfA}, {f.c, valueOfC}};
     for (const auto &[page, value] : pages) {
         f.settings.setValue(page->key, value == "same" ? "same" : "stored");
         f.defaults.setValue(page->key, value == "same" ? "same" : "default");
     }
-    if (!hidden.isEmpty())
-        f.settings.setValue(hidden, true);
+    f.settings.setValue(QString("::PYXSettingsDialog::/hide%1Button").arg(QTest::currentDataTag()), true);
     f.run(
         [&] {
             for (const auto &[page, value] : pages)
                 page->field->setText(value);
             QTEST(f.usableButtons(), "usable");
-            QEvent styleChange(QEvent::StyleChange); // button boxes show all their buttons
-            auto widgets = f.dialog.findChildren<QWidget *>();
-            widgets += &f.dialog;
-            for (QWidget *const widget : qAsConst(widgets))
-                QCoreApplication::sendEvent(widget, &styleChange);
-            QCoreApplication::sendPostedEvents(&f.dialog);
+            f.changeStyle(); // button boxes show all their buttons then
             QTEST(f.usableButtons(), "usable");
         },
         f.a);
@@ -296,7 +244,7 @@ void tst_PYXSettingsDialog::buttonsFollowTheState()
     QVERIFY(!f.button("Dialog", Box::Apply)->isEnabled());
 }
 
-void tst_PYXSettingsDialog::clickingThroughTheTree()
+void tst_PYXSettingsDialog::movingThroughTheTree()
 {
     Fixture f;
     f.run([&] {
@@ -313,18 +261,14 @@ void tst_PYXSettingsDialog::clickingThroughTheTree()
         QCOMPARE(f.dialog.findChild<QStackedWidget *>()->currentWidget()->objectName(), QString("page"));
         QVERIFY(!f.dialog.findChild<Box *>("m_ButtonBoxPage")->isVisible());
     });
-}
-
-void tst_PYXSettingsDialog::keysThroughTheTree()
-{
-    Fixture f;
-    f.run([&] {
-        QVERIFY(f.tree()->hasFocus());
+    Fixture keys;
+    keys.run([&] {
+        QVERIFY(keys.tree()->hasFocus());
         QStringList way;
         for (const int key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Home,
                               Qt::Key_End, Qt::Key_Up, Qt::Key_Up, Qt::Key_Up, Qt::Key_Up}) {
-            QTest::keyClick(f.tree(), Qt::Key(key));
-            way += f.current();
+            QTest::keyClick(keys.tree(), Qt::Key(key));
+            way += keys.current();
         }
         QCOMPARE(way.join(' '), QString("C A B B D B A C D D"));
     });
@@ -433,33 +377,31 @@ void tst_PYXSettingsDialog::resettingAndRestoring()
 
 void tst_PYXSettingsDialog::discarding_data()
 {
-    QTest::addColumn<QString>("way");
-    QTest::addColumn<bool>("bModified");
-    QTest::addColumn<int>("answer");
-    QTest::addColumn<bool>("bFails");
-    QTest::addColumn<bool>("bCloses");
-    for (const QString way : {"button", "window", "escape"}) {
-        const QByteArray name = way.toLatin1();
-        QTest::newRow(name + ", no") << way << true << int(QMessageBox::No) << false << false;
-        QTest::newRow(name + ", yes") << way << true << int(QMessageBox::Yes) << false << true;
-        QTest::newRow(name + ", page refuses") << way << true << int(QMessageBox::Yes) << true << false;
-        if (way != "button") // which is hidden then
-            QTest::newRow(name + ", nothing modified")
-                << way << false << int(QMessageBox::NoButton) << false << true;
-    }
+    constexpr int None = QMessageBox::NoButton; // not asked: nothing is modified
+    // How; what is answered; whether the page refuses; whether the dialog closes.
+    const Rows<QString, int, bool, bool> rows = {
+        {"button, no", "button", QMessageBox::No, false, false},
+        {"button, yes", "button", QMessageBox::Yes, false, true},
+        {"button, page refuses", "button", QMessageBox::Yes, true, false},
+        {"window, no", "window", QMessageBox::No, false, false},
+        {"window, yes", "window", QMessageBox::Yes, false, true},
+        {"window, nothing modified", "window", None, false, true},
+        {"escape, yes", "escape", QMessageBox::Yes, false, true},
+        {"escape, nothing modified", "escape", None, false, true}};
+    addRows({"way", "answer", "bFails", "bCloses"}, rows);
 }
 
 void tst_PYXSettingsDialog::discarding()
 {
     QFETCH(QString, way);
-    QFETCH(bool, bModified);
     QFETCH(int, answer);
     QFETCH(bool, bFails);
     QFETCH(bool, bCloses);
     Fixture f;
     f.run([&] {
         f.a->bFails = bFails;
-        f.a->field->setText(bModified ? "new" : "");
+        const QString value = answer == QMessageBox::NoButton ? "" : "new";
+        f.a->field->setText(value);
         Answer box(answer);
         if (way == "button")
             f.press("Dialog", Box::Discard);
@@ -470,12 +412,8 @@ void tst_PYXSettingsDialog::discarding()
         QCOMPARE(f.dialog.isVisible(), !bCloses);
         QCOMPARE(f.dialog.result(), int(QDialog::Rejected));
         QCOMPARE(f.a->calls.contains("discard"), answer == int(QMessageBox::Yes));
-        QCOMPARE(f.a->field->text(), QString(bModified ? "new" : ""));
-        if (!bModified)
-            return;
-        QCOMPARE(box.title, QString("Settings Modified"));
-        QCOMPARE(box.text, QString("The settings have been modified.\n"
-                                   "Do you really want to discard the changes?"));
+        QCOMPARE(f.a->field->text(), value);
+        QCOMPARE(box.title, value.isEmpty() ? QString() : QString("Settings Modified"));
     });
     QVERIFY(!f.settings.contains("Pages/A"));
     // What was closed once asks again in the next run.
@@ -484,7 +422,9 @@ void tst_PYXSettingsDialog::discarding()
         f.a->field->setText("newer");
         Answer box(QMessageBox::No);
         f.dialog.close();
-        QVERIFY(f.dialog.isVisible() && !box.title.isEmpty());
+        QVERIFY(f.dialog.isVisible());
+        QCOMPARE(box.text, QString("The settings have been modified.\n"
+                                   "Do you really want to discard the changes?"));
     });
 }
 
@@ -610,37 +550,31 @@ void tst_PYXSettingsDialog::pagesComeAndGoWhileRunning()
     QCOMPARE(dialog->exec(f.settings, f.defaults), int(QDialog::Rejected));
 }
 
-void tst_PYXSettingsDialog::theDialogGoesWhileItAsks_data()
-{
-    QTest::addColumn<QString>("title");
-    for (const QString title : {"Errors in Settings", "Settings Modified", ""})
-        QTest::newRow(title.isEmpty() ? "after applying" : qPrintable(title)) << title;
-}
-
 void tst_PYXSettingsDialog::theDialogGoesWhileItAsks()
 {
-    QFETCH(QString, title);
-    Fixture f;
-    const QPointer<PYXSettingsDialog> dialog = new PYXSettingsDialog;
-    auto *const page = new FieldPage("", "E");
-    dialog->registerSettingsHandler(page);
-    connect(dialog, qOverload<>(&PYXSettingsDialog::si_settingsApplied), [&] { delete dialog; });
-    if (title.startsWith("Errors"))
-        page->errors += "first";
-    QString found;
-    QTimer::singleShot(0, dialog, [&] {
-        page->field->setText("new");
+    for (const QString title : {"Errors in Settings", "Settings Modified", ""}) { // the last: after applying
+        Fixture f;
+        const QPointer<PYXSettingsDialog> dialog = new PYXSettingsDialog;
+        auto *const page = new FieldPage("", "E");
+        dialog->registerSettingsHandler(page);
+        connect(dialog, qOverload<>(&PYXSettingsDialog::si_settingsApplied), [&] { delete dialog; });
+        if (title.startsWith("Errors"))
+            page->errors += "first";
+        QString found;
         QTimer::singleShot(0, dialog, [&] {
-            if (const QWidget *const box = QApplication::activeModalWidget())
-                found = box->windowTitle();
-            delete dialog;
+            page->field->setText("new");
+            QTimer::singleShot(0, dialog, [&] {
+                if (const QWidget *const box = QApplication::activeModalWidget())
+                    found = box->windowTitle();
+                delete dialog;
+            });
+            auto *const buttons = dialog->findChild<Box *>("m_ButtonBoxDialog");
+            buttons->button(title == "Settings Modified" ? Box::Discard : Box::Ok)->click();
         });
-        auto *const buttons = dialog->findChild<Box *>("m_ButtonBoxDialog");
-        buttons->button(title == "Settings Modified" ? Box::Discard : Box::Ok)->click();
-    });
-    QCOMPARE(dialog->exec(f.settings, f.defaults), int(QDialog::Rejected));
-    QVERIFY(dialog.isNull());
-    QCOMPARE(found, title);
+        QCOMPARE(dialog->exec(f.settings, f.defaults), int(QDialog::Rejected));
+        QVERIFY(dialog.isNull());
+        QCOMPARE(found, title);
+    }
 }
 
 void tst_PYXSettingsDialog::everyControlHasANameAndItsTurn()
@@ -648,11 +582,7 @@ void tst_PYXSettingsDialog::everyControlHasANameAndItsTurn()
     Fixture f;
     f.run([&] {
         f.d->field->setText("new");
-        QEvent styleChange(QEvent::StyleChange); // which lays button boxes out anew
-        for (const char *const name : {"m_ButtonBoxPage", "m_ButtonBoxDialog"})
-            QCoreApplication::sendEvent(f.dialog.findChild<Box *>(name), &styleChange);
-        QCoreApplication::sendEvent(&f.dialog, &styleChange);
-        QCoreApplication::sendPostedEvents(&f.dialog);
+        f.changeStyle(); // which lays button boxes out anew
         QSet<const QWidget *> expected;
         QSet<QString> names;
         const auto widgets = f.dialog.findChildren<QWidget *>();
@@ -677,6 +607,43 @@ void tst_PYXSettingsDialog::everyControlHasANameAndItsTurn()
                      order.indexOf("Apply this page") < order.indexOf("Apply all pages"),
                  qPrintable(order.join(',')));
     });
+}
+
+void tst_PYXSettingsDialog::modificationsCanBeIgnored()
+{
+    FieldPage page("", "Page");
+    QSignalSpy made(&page, &PYXSettingsHandlerWidget::si_madeModifications);
+    page.setIgnoreModified(true);
+    QTest::keyClicks(page.field, "a");
+    QVERIFY(page.modifications == 0 && made.isEmpty());
+    page.setIgnoreModified(false);
+    QTest::keyClicks(page.field, "b");
+    QVERIFY(page.modifications == 1 && made.size() == 1);
+}
+
+void tst_PYXSettingsDialog::blockingLeavesThePageItself()
+{
+    FieldPage page("", "Page");
+    QObject plain(&page);
+    QWidget group(&page);
+    QLineEdit nested(&group);
+    page.blockControlsSignals(true);
+    QVERIFY(page.field->signalsBlocked() && nested.signalsBlocked());
+    QVERIFY(!page.signalsBlocked() && !plain.signalsBlocked() && !page.layout()->signalsBlocked());
+    page.blockControlsSignals(false);
+    QVERIFY(!page.field->signalsBlocked() && !nested.signalsBlocked());
+    page.recursiveBlockSignals(true);
+    QVERIFY(page.signalsBlocked() && nested.signalsBlocked() && !plain.signalsBlocked());
+}
+
+void tst_PYXSettingsDialog::textsComeWithTheEventLoop()
+{
+    FieldPage page("", "Page");
+    QVERIFY(page.calls.isEmpty());
+    QTRY_COMPARE(page.calls, QStringList("retranslate"));
+    page.setTitle("Another");
+    QCOMPARE(QAccessible::queryAccessibleInterface(&page)->text(QAccessible::Name), QString("Another"));
+    QCOMPARE(page.property("::TITLE::").toString(), QString("Another"));
 }
 
 QTEST_MAIN(tst_PYXSettingsDialog)

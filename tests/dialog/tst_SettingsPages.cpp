@@ -1,14 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The PYXRuntime developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
-#include "PYXBroker.h"
-#include "PYXBrokerRegistration.h"
+#include "DataRows.h"
+#include "DialogRun.h"
+#include "FileContents.h"
 #include "PYXNotification.h"
 #include "PYXProxyManager.h"
 #include "PYXRuntimeCenter.h"
-#include "PYXSettings.h"
-#include "PYXSettingsDialog.h"
-#include "RecordingTracer.h"
-#include "SettingsHome.h"
 #include "SHW_Debug_AppMode.h"
 #include "SHW_Debug_Broker.h"
 #include "SHW_Debug_RuntimeScopes.h"
@@ -22,31 +19,16 @@
 #include <QtNetwork/QTcpServer>
 #include <QtNetwork/QTcpSocket>
 #include <QtTest/QtTest>
-#include <QtWidgets/QAbstractItemView>
-#include <QtWidgets/QApplication>
-#include <QtWidgets/QCheckBox>
-#include <QtWidgets/QComboBox>
-#include <QtWidgets/QDialogButtonBox>
-#include <QtWidgets/QGroupBox>
-#include <QtWidgets/QLabel>
-#include <QtWidgets/QLineEdit>
-#include <QtWidgets/QPushButton>
-#include <QtWidgets/QRadioButton>
-#include <QtWidgets/QSpinBox>
-#include <QtWidgets/QStyle>
-#include <QtWidgets/QTableWidget>
-#include <QtWidgets/QTreeWidget>
+#include <QtWidgets/QtWidgets>
 
 using namespace PYXRuntime;
 
 namespace {
 
-/** A dialog with one page, or more, on stores of its own. */
-class Fixture
+/** With one page, or more. */
+class Fixture : public DialogRun
 {
 public:
-    Fixture() { PYXTraceWrapper::addTracer(&tracer); }
-
     template <typename Page>
     Page *add()
     {
@@ -54,30 +36,10 @@ public:
         dialog.registerSettingsHandler(page);
         return page;
     }
-    template <typename Function>
-    void run(Function inside, PYXSettingsHandlerWidget *page = nullptr)
-    {
-        QTimer::singleShot(0, &dialog, [&] {
-            if (QTest::qWaitForWindowActive(&dialog))
-                inside();
-            dialog.done(0);
-        });
-        dialog.exec(settings, defaults, shared, sharedDefaults, page);
-    }
-    QPushButton *button(QDialogButtonBox::StandardButton which)
-    {
-        return dialog.findChild<QDialogButtonBox *>("m_ButtonBoxDialog")->button(which);
-    }
+    using DialogRun::button;
+    QPushButton *button(QDialogButtonBox::StandardButton which) { return button("Dialog", which); }
     bool isModified() { return button(QDialogButtonBox::Apply)->isEnabled(); }
     void apply() { button(QDialogButtonBox::Apply)->click(); }
-
-    RecordingTracer tracer;
-    SettingsHome home;
-    PYXSettings settings{PYXSettings::eUserApplicationSettings};
-    PYXSettings defaults{PYXSettings::eDefaultApplicationSettings};
-    PYXSettings shared{PYXSettings::eUserSharedSettings};
-    PYXSettings sharedDefaults{PYXSettings::eDefaultSharedSettings};
-    PYXSettingsDialog dialog;
 };
 
 /** The control whose label, text or title reads so, without mnemonics. */
@@ -136,10 +98,8 @@ private slots:
     void everyPageOpensUntouchedAndNamed();
     void modesAndStyle();
     void runtimeScopes();
-    void brokerRegistrations();
     void directories();
     void proxyIsStoredEncrypted();
-    void proxyErrors_data();
     void proxyErrors();
     void proxyTest();
     void networkEntries();
@@ -220,34 +180,18 @@ void tst_SettingsPages::runtimeScopes()
     PYXRuntimeCenter::setEnabled_pyxDebugToTrace(false);
 }
 
-void tst_SettingsPages::brokerRegistrations()
-{
-    const QUuid id("{11111111-2222-3333-4444-555555555555}");
-    PYXBroker::getInstance()->declareInterface(id, "APageTest");
-    Fixture f;
-    const auto *const page = f.add<SHW_Debug_Broker>();
-    f.run([&] {
-        const auto *const view = page->findChild<QAbstractItemView *>();
-        QCOMPARE(rowWith(*view, "APageTest"), -1);
-        QObject object;
-        const PYXBrokerRegistration registration(id, 0, &object);
-        QTRY_VERIFY(rowWith(*view, "APageTest") >= 0);
-    });
-}
-
 void tst_SettingsPages::directories()
 {
     Fixture f;
     auto *const page = f.add<SHW_General_Paths>();
     page->addDirectory("Paths/Recordings", "&Recordings:");
     QSignalSpy changed(page, &SHW_General_Paths::si_pathsChanged);
-    QFile file(f.home.path("file"));
-    QVERIFY(file.open(QIODevice::WriteOnly));
+    put(f.home.path("file"), {});
     f.run([&] {
         auto *const scripts = control<QLineEdit>(*page, "Scripts");
         auto *const recordings = control<QLineEdit>(*page, "Recordings");
         scripts->setText(" " + f.home.path("scripts")); // is stored as it is
-        recordings->setText(file.fileName());
+        recordings->setText(f.home.path("file"));
         QCOMPARE(errorsOf(*page).size(), 2);
         scripts->setText(f.home.path("scripts"));
         recordings->setText(f.home.path("recordings"));
@@ -282,8 +226,8 @@ void tst_SettingsPages::proxyIsStoredEncrypted()
     });
     QVERIFY(password->text().isEmpty());
     QCOMPARE(PYXProxyManager::currentProxyConfigurationWithoutPassword().proxyPort(), quint16(3128));
-    QFile file(f.settings.fileName());
-    QVERIFY(file.open(QIODevice::ReadOnly) && !file.readAll().contains("topsecret"));
+    const QByteArray stored = get(f.settings.fileName());
+    QVERIFY(stored.contains("ProxyPassword") && !stored.contains("topsecret"));
     QCOMPARE(f.tracer.calls.filter("topsecret"), QStringList());
     f.run([&] {
         QVERIFY(!f.isModified());
@@ -295,38 +239,23 @@ void tst_SettingsPages::proxyIsStoredEncrypted()
     });
 }
 
-void tst_SettingsPages::proxyErrors_data()
-{
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<QString>("server");
-    QTest::addColumn<bool>("bCredentials");
-    QTest::addColumn<int>("errors");
-    QTest::newRow("none") << "No proxy"
-                          << "" << true << 0;
-    QTest::newRow("system") << "As the system has it"
-                            << "" << false << 0;
-    QTest::newRow("system, no user") << "As the system has it"
-                                     << "" << true << 1;
-    QTest::newRow("no server") << "This proxy"
-                               << " " << false << 1;
-    QTest::newRow("URL") << "This proxy"
-                         << "http://proxy" << false << 1;
-    QTest::newRow("server, no user") << "This proxy"
-                                     << "proxy" << true << 1;
-    QTest::newRow("server") << "This proxy"
-                            << "proxy" << false << 0;
-}
-
 void tst_SettingsPages::proxyErrors()
 {
-    QFETCH(QString, type);
-    QFETCH(QString, server);
-    QFETCH(bool, bCredentials);
-    SHW_Network_Proxy page;
-    control<QRadioButton>(page, type)->click();
-    control<QLineEdit>(page, "Server")->setText(server);
-    control<QGroupBox>(page, "The proxy asks for a user name")->setChecked(bCredentials);
-    QTEST(errorsOf(page).size(), "errors");
+    // The type, the server, whether it asks for a user, errors.
+    const Rows<QString, QString, bool, int> rows = {{"none", "No proxy", "", true, 0},
+                                                    {"system", "As the system has it", "", false, 0},
+                                                    {"system, no user", "As the system has it", "", true, 1},
+                                                    {"no server", "This proxy", " ", false, 1},
+                                                    {"URL", "This proxy", "http://proxy", false, 1},
+                                                    {"server, no user", "This proxy", "proxy", true, 1},
+                                                    {"server", "This proxy", "proxy", false, 0}};
+    forRows(rows, [](const QString &type, const QString &server, bool bCredentials, int errors) {
+        SHW_Network_Proxy page;
+        control<QRadioButton>(page, type)->click();
+        control<QLineEdit>(page, "Server")->setText(server);
+        control<QGroupBox>(page, "The proxy asks for a user name")->setChecked(bCredentials);
+        QCOMPARE(errorsOf(page).size(), errors);
+    });
 }
 
 void tst_SettingsPages::proxyTest()

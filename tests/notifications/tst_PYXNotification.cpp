@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The PYXRuntime developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
+#include "FileContents.h"
 #include "PYXNotification.h"
 #include "PYXSettings.h"
 #include "RecordingTracer.h"
@@ -60,10 +61,8 @@ private slots:
     void initTestCase() { m_home.reset(new SettingsHome); }
     void init() { PYXNotification::showAllMessagesAgain(); }
     void cleanupTestCase() { m_home.reset(); }
-    void kinds_data();
     void kinds();
     void remembersTheAnswer();
-    void closedWithoutAButton_data();
     void closedWithoutAButton();
     void choosesTheDefaultButton();
     void fitsItsText();
@@ -76,41 +75,33 @@ private:
     QScopedPointer<SettingsHome> m_home;
 };
 
-void tst_PYXNotification::kinds_data()
-{
-    QTest::addColumn<int>("icon");
-    QTest::addColumn<QString>("checkBox");
-    QTest::newRow("information") << int(QMessageBox::Information) << "Show this message again";
-    QTest::newRow("warning") << int(QMessageBox::Warning) << "Show this message again";
-    QTest::newRow("critical") << int(QMessageBox::Critical) << "Show this message again";
-    QTest::newRow("question") << int(QMessageBox::Question) << "Ask this question again";
-}
-
 void tst_PYXNotification::kinds()
 {
-    QFETCH(int, icon);
-    QFETCH(QString, checkBox);
-    int shown = 0;
-    whenShown([&](PYXNotification &dialog) {
-        ++shown;
-        QCOMPARE(int(dialog.icon()), icon);
-        QVERIFY(!dialog.iconPixmap().isNull());
-        QCOMPARE(dialog.findChild<QCheckBox *>()->text(), checkBox);
-        QCOMPARE(dialog.windowTitle(), QString("Title"));
-        QCOMPARE(dialog.text(), QString("<b>text</b>"));
-        QCOMPARE(dialog.standardButtons(), Box::Ok | Box::Cancel);
-        QVERIFY(dialog.isModal() && dialog.showAgain());
-        QTest::mouseClick(buttonOf(dialog, Box::Cancel), Qt::LeftButton);
-    });
-    const auto show = icon == QMessageBox::Information ? &PYXNotification::information
-                      : icon == QMessageBox::Warning   ? &PYXNotification::warning
-                      : icon == QMessageBox::Critical  ? &PYXNotification::critical
-                                                       : &PYXNotification::question;
-    const auto clicked =
-        show(nullptr, "Title", "<b>text</b>", "a", "b", Box::Ok | Box::Cancel, Box::NoButton, false);
-    QCOMPARE(clicked, Box::Cancel);
-    QCOMPARE(shown, 1);
-    QVERIFY(PYXNotification::willShowMessage("a", "b"));
+    const std::pair<decltype(&PYXNotification::warning), QMessageBox::Icon> kinds[] = {
+        {&PYXNotification::information, QMessageBox::Information},
+        {&PYXNotification::warning, QMessageBox::Warning},
+        {&PYXNotification::critical, QMessageBox::Critical},
+        {&PYXNotification::question, QMessageBox::Question}};
+    for (const auto &kind : kinds) {
+        const auto icon = kind.second;
+        bool bShown = false;
+        whenShown([&](PYXNotification &dialog) {
+            bShown = true;
+            QCOMPARE(dialog.icon(), icon);
+            QVERIFY(!dialog.iconPixmap().isNull());
+            QCOMPARE(dialog.findChild<QCheckBox *>()->text(),
+                     QString(icon == QMessageBox::Question ? "Ask this question again"
+                                                           : "Show this message again"));
+            QCOMPARE(dialog.windowTitle() + dialog.text(), QString("Title<b>text</b>"));
+            QCOMPARE(dialog.standardButtons(), Box::Ok | Box::Cancel);
+            QVERIFY(dialog.isModal() && dialog.showAgain());
+            QTest::mouseClick(buttonOf(dialog, Box::Cancel), Qt::LeftButton);
+        });
+        const auto clicked = kind.first(nullptr, "Title", "<b>text</b>", "a", "b", Box::Ok | Box::Cancel,
+                                        Box::NoButton, false);
+        QCOMPARE(clicked, Box::Cancel);
+        QVERIFY(bShown && PYXNotification::willShowMessage("a", "b"));
+    }
 }
 
 void tst_PYXNotification::remembersTheAnswer()
@@ -135,26 +126,19 @@ void tst_PYXNotification::remembersTheAnswer()
     QCOMPARE(m_home->files(), QStringList());
 }
 
-void tst_PYXNotification::closedWithoutAButton_data()
-{
-    QTest::addColumn<bool>("withParent");
-    QTest::newRow("Escape") << false;
-    QTest::newRow("its parent goes") << true;
-}
-
 void tst_PYXNotification::closedWithoutAButton()
 {
-    QFETCH(bool, withParent);
-    auto *const parent = withParent ? new QWidget : nullptr;
-    whenShown([&](PYXNotification &dialog) {
-        dialog.findChild<QCheckBox *>()->setChecked(false);
-        if (withParent)
-            delete parent;
-        else
-            QTest::keyClick(&dialog, Qt::Key_Escape);
-    });
-    QCOMPARE(PYXNotification::warning(parent, "Title", "text", "a", "b"), Box::NoButton);
-    QVERIFY(PYXNotification::willShowMessage("a", "b"));
+    for (auto *const parent : {static_cast<QWidget *>(nullptr), new QWidget}) {
+        whenShown([parent](PYXNotification &dialog) {
+            dialog.findChild<QCheckBox *>()->setChecked(false);
+            if (parent != nullptr)
+                delete parent;
+            else
+                QTest::keyClick(&dialog, Qt::Key_Escape);
+        });
+        QCOMPARE(PYXNotification::warning(parent, "Title", "text", "a", "b"), Box::NoButton);
+        QVERIFY(PYXNotification::willShowMessage("a", "b"));
+    }
 }
 
 void tst_PYXNotification::choosesTheDefaultButton()
@@ -268,14 +252,12 @@ void tst_PYXNotification::tracersMayAsk()
     };
     const QString path = PYXSettings(PYXSettings::eUserApplicationSettings).fileName();
     QVERIFY(QDir().mkpath(QFileInfo(path).path()));
-    QFile damaged(path);
-    QVERIFY(damaged.open(QIODevice::WriteOnly) && damaged.write("<PYX") == 4);
-    damaged.close();
+    put(path, "<PYX");
     AskingTracer tracer;
     PYXTraceWrapper::addTracer(&tracer);
     QVERIFY(!tracer.messages.contains("module", "start"));
     QCOMPARE(tracer.willShow, 1);
-    QVERIFY(damaged.remove());
+    QVERIFY(QFile::remove(path));
 }
 
 void tst_PYXNotification::threadsMayAsk()

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The PYXRuntime developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
 #include "ChildProcess.h"
+#include "DataRows.h"
 #include "PYXPopupNotification.h"
 #include "PYXPopupNotificationWidget.h"
 #include "RecordingTracer.h"
 
-#include <QtCore/QPropertyAnimation>
 #include <QtGui/QAccessible>
 #include <QtGui/QScreen>
 #include <QtTest/QtTest>
@@ -85,8 +85,6 @@ struct Window : QWidget
 
 } // namespace
 
-Q_DECLARE_METATYPE(std::function<void()>)
-
 class tst_PYXPopupNotification : public QObject
 {
     Q_OBJECT
@@ -95,16 +93,13 @@ private slots:
     void init() { m_shown.clear(); }
     void cleanup() { PYXPopupNotification::destroyInstance(); }
     void showsOneAfterAnother();
-    void times_data();
     void times();
-    void isCentredOver_data();
     void isCentredOver();
     void takesNoFocusAndIsAnAlert();
     void outlivesItsParent();
     void startsAgain();
     void survivesListeners();
     void fitsItsText();
-    void isReadable_data();
     void isReadable();
     void queuesFromFourThreads();
     void doesWithoutWidgets();
@@ -147,71 +142,56 @@ void tst_PYXPopupNotification::showsOneAfterAnother()
     QVERIFY(!PYXPopupNotification::connect_queueEmpty(nullptr, SIGNAL(timeout())));
 }
 
-void tst_PYXPopupNotification::times_data()
-{
-    using Popups = PYXPopupNotification;
-    QTest::addColumn<std::function<void()>>("queue");
-    QTest::addColumn<QString>("expected");
-    const auto row = [](const char *name, const char *expected, const std::function<void()> &queue) {
-        QTest::newRow(name) << queue << expected;
-    };
-    row("all", "1 2 3", [] { Popups::queueNotification("text", 1, 2, 3, nullptr); });
-    row("zero", "500 1000 500", [] { Popups::queueNotification("text", 0, 0, 0, nullptr); });
-    row("negative", "500 1000 500", [] { Popups::queueNotification("text", -1, -1, -1, nullptr); });
-    const int most = std::numeric_limits<int>::max();
-    row("huge", "715827882 715827882 715827882",
-        [=] { Popups::queueNotification("text", most, most, most, nullptr); });
-    row("show", "500 70 500", [] { Popups::queueNotification("text", 70, nullptr); });
-    row("parent", "500 1000 500", [] { Popups::queueNotification("text", nullptr); });
-    row("text", "500 1000 500", [] { Popups::queueNotification("text"); });
-    row("quick", "250 500 250", [] { Popups::queueQuickNotification("text"); });
-    row("quick show", "250 70 250", [] { Popups::queueQuickNotification("text", 70, nullptr); });
-    row("quick parent", "250 500 250", [] { Popups::queueQuickNotification("text", nullptr); });
-}
-
 void tst_PYXPopupNotification::times()
 {
-    QFETCH(std::function<void()>, queue);
-    queue();
-    QTRY_VERIFY(!runningTimes().isEmpty());
-    QTEST(runningTimes(), "expected");
-}
-
-void tst_PYXPopupNotification::isCentredOver_data()
-{
-    QTest::addColumn<QString>("parent");
-    for (const char *parent : {"window", "edit", "active", "none"})
-        QTest::newRow(parent) << parent;
+    using Popups = PYXPopupNotification;
+    const int most = std::numeric_limits<int>::max();
+    const std::pair<std::function<void()>, const char *> rows[] = {
+        {[] { Popups::queueNotification("text", 1, 2, 3, nullptr); }, "1 2 3"},
+        {[] { Popups::queueNotification("text", 0, -1, 0, nullptr); }, "500 1000 500"},
+        {[=] { Popups::queueNotification("text", most, most, most, nullptr); },
+         "715827882 715827882 715827882"},
+        {[] { Popups::queueNotification("text", 70, nullptr); }, "500 70 500"},
+        {[] { Popups::queueNotification("text"); }, "500 1000 500"},
+        {[] { Popups::queueQuickNotification("text"); }, "250 500 250"},
+        {[] { Popups::queueQuickNotification("text", 70, nullptr); }, "250 70 250"}};
+    for (const auto &[queue, expected] : rows) {
+        queue();
+        QTRY_VERIFY(!runningTimes().isEmpty());
+        QCOMPARE(runningTimes(), QString(expected));
+        PYXPopupNotification::destroyInstance();
+    }
 }
 
 void tst_PYXPopupNotification::isCentredOver()
 {
-    QFETCH(QString, parent);
-    QScopedPointer<Window> window(new Window);
-    QVERIFY(QTest::qWaitForWindowExposed(window.data()));
-    QWidget *over = nullptr;
-    if (parent == "window")
-        over = window.data();
-    else if (parent == "edit")
-        over = window->edit;
-    QRect reference(window->edit->mapToGlobal(QPoint()), window->edit->size());
-    if (parent == "none") {
-        window.reset();
-        reference = QGuiApplication::primaryScreen()->availableGeometry();
-        if (onWayland())
-            QSKIP("there is no place for it");
-    } else if (parent != "edit") {
-        reference = window->frameGeometry();
-        if (!onWayland())
-            QVERIFY(QTest::qWaitForWindowActive(window.data()));
+    for (const QByteArray parent : {"window", "edit", "active", "none"}) {
+        QScopedPointer<Window> window(new Window);
+        QVERIFY(QTest::qWaitForWindowExposed(window.data()));
+        QWidget *over = nullptr;
+        if (parent == "window")
+            over = window.data();
+        else if (parent == "edit")
+            over = window->edit;
+        QRect reference(window->edit->mapToGlobal(QPoint()), window->edit->size());
+        if (parent == "none") {
+            if (onWayland()) // there is no place for it
+                return;
+            window.reset();
+            reference = QGuiApplication::primaryScreen()->availableGeometry();
+        } else if (parent != "edit") {
+            reference = window->frameGeometry();
+            if (!onWayland())
+                QVERIFY(QTest::qWaitForWindowActive(window.data()));
+        }
+        PYXPopupNotificationWidget widget;
+        widget.setText("text");
+        widget.popup(1, 60'000, 1, over);
+        QTRY_VERIFY(shownPopup() != nullptr);
+        const QWidget *const popup = shownPopup();
+        QVERIFY2(QRect(popup->mapToGlobal(QPoint()), popup->size()).center() == reference.center(), parent);
+        QCOMPARE(popup->isWindow(), !onWayland());
     }
-    PYXPopupNotificationWidget widget;
-    widget.setText("text");
-    widget.popup(1, 60'000, 1, over);
-    QTRY_VERIFY(shownPopup() != nullptr);
-    const QWidget *const popup = shownPopup();
-    QCOMPARE(QRect(popup->mapToGlobal(QPoint()), popup->size()).center(), reference.center());
-    QCOMPARE(popup->isWindow(), !onWayland());
 }
 
 void tst_PYXPopupNotification::takesNoFocusAndIsAnAlert()
@@ -324,35 +304,29 @@ void tst_PYXPopupNotification::fitsItsText()
     QVERIFY(!widget.pixmap().isNull());
 }
 
-void tst_PYXPopupNotification::isReadable_data()
-{
-    QTest::addColumn<QColor>("window");
-    QTest::addColumn<QColor>("text");
-    QTest::newRow("light") << QColor(239, 239, 239) << QColor(Qt::black);
-    QTest::newRow("dark") << QColor(49, 54, 59) << QColor(239, 240, 241);
-    QTest::newRow("high contrast") << QColor(Qt::black) << QColor(Qt::yellow);
-}
-
 void tst_PYXPopupNotification::isReadable()
 {
-    QFETCH(QColor, window);
-    QFETCH(QColor, text);
-    PYXPopupNotificationWidget widget;
-    QPalette palette;
-    palette.setColor(QPalette::Window, window);
-    palette.setColor(QPalette::WindowText, text);
-    palette.setColor(QPalette::ToolTipBase, text); // as in many a dark theme
-    palette.setColor(QPalette::ToolTipText, text);
-    widget.setPalette(palette);
-    QPixmap blank(1, 1);
-    blank.fill(Qt::transparent);
-    widget.setPixmap(blank);
-    widget.setText(QString(20, QChar(0x2588))); // full blocks: the ink is sure to cover a pixel
-    widget.resize(widget.sizeHint());
-    const QImage image = widget.grab().toImage();
-    const double ink = luminance(image.pixelColor(image.rect().center()));
-    const double ground = luminance(image.pixelColor(image.width() / 2, 3));
-    QVERIFY((qMax(ink, ground) + 0.05) / (qMin(ink, ground) + 0.05) >= 7.0);
+    const Rows<QColor, QColor> rows = {{"light", {239, 239, 239}, Qt::black},
+                                       {"dark", {49, 54, 59}, {239, 240, 241}},
+                                       {"high contrast", Qt::black, Qt::yellow}};
+    forRows(rows, [](const QColor &window, const QColor &text) {
+        PYXPopupNotificationWidget widget;
+        QPalette palette;
+        palette.setColor(QPalette::Window, window);
+        palette.setColor(QPalette::WindowText, text);
+        palette.setColor(QPalette::ToolTipBase, text); // as in many a dark theme
+        palette.setColor(QPalette::ToolTipText, text);
+        widget.setPalette(palette);
+        QPixmap blank(1, 1);
+        blank.fill(Qt::transparent);
+        widget.setPixmap(blank);
+        widget.setText(QString(20, QChar(0x2588))); // full blocks: the ink is sure to cover a pixel
+        widget.resize(widget.sizeHint());
+        const QImage image = widget.grab().toImage();
+        const double ink = luminance(image.pixelColor(image.rect().center()));
+        const double ground = luminance(image.pixelColor(image.width() / 2, 3));
+        QVERIFY((qMax(ink, ground) + 0.05) / (qMin(ink, ground) + 0.05) >= 7.0);
+    });
 }
 
 void tst_PYXPopupNotification::queuesFromFourThreads()

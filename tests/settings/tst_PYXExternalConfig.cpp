@@ -31,21 +31,14 @@ private slots:
 
 void tst_PYXExternalConfig::keepsValuesUntilItIsDestroyed()
 {
-    QCOMPARE(PYXExternalConfig::hasInstance(), nullptr);
     PYXExternalConfig *const config = PYXExternalConfig::getInstance();
-    QCOMPARE(PYXExternalConfig::hasInstance(), config);
-    QCOMPARE(PYXExternalConfig::getInstance(), config);
     QCOMPARE(config->value("Antenna", 7).toInt(), 7);
-    config->setValue("Antenna", 1);
     config->setValue("Antenna", 2);
     config->setValue("Site", QVariant());
     QCOMPARE(config->value("Antenna", 7).toInt(), 2);
     QVERIFY(config->contains("Site") && !config->value("Site", 7).isValid());
-    QStringList keys = config->allKeys();
-    keys.sort();
-    QCOMPARE(keys, QStringList({"Antenna", "Site"}));
     config->remove("Site");
-    QVERIFY(!config->contains("Site"));
+    QCOMPARE(config->allKeys(), QStringList("Antenna"));
     // Who hears of its end may ask for it.
     PYXExternalConfig *answer = config;
     connect(config, &QObject::destroyed, this, [&answer] { answer = PYXExternalConfig::hasInstance(); });

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The PYXRuntime developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
+#include "FileContents.h"
 #include "PYXRuntime.h"
 #include "PYXSettings.h"
 #include "PYXThisRunOnlySettings.h"
@@ -7,7 +8,6 @@
 #include "RecordingTracer.h"
 #include "SettingsHome.h"
 
-#include <QtCore/QBuffer>
 #include <QtTest/QtTest>
 
 using PYXRuntime::PYXSettings;
@@ -118,9 +118,7 @@ void tst_PYXThisRunOnlySettings::aDamagedFileLeavesNoCopy()
     PYXThisRunOnlySettings::makeSureInitialized();
     home.hold(PYXThisRunOnlySettings::format());
     QVERIFY(QDir().mkpath(home.path("user/Organisation")));
-    QFile file(home.path("user/Organisation/Application.PYXTRO"));
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("<pyxxmlsettings><entry>") > 0);
-    file.close();
+    put(home.path("user/Organisation/Application.PYXTRO"), "<pyxxmlsettings><entry>");
     QTest::ignoreMessage(QtWarningMsg, QRegularExpression("error setting content"));
     QCOMPARE(PYXSettings(PYXSettings::eThisRunOnlyUserApplication).status(), QSettings::FormatError);
     PYXThisRunOnlySettings::destroyInstance();

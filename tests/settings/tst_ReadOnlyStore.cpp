@@ -35,44 +35,37 @@ class tst_ReadOnlyStore : public QObject
 {
     Q_OBJECT
 private slots:
-    void statusAndTraceTellAndTheOldFileStays_data();
     void statusAndTraceTellAndTheOldFileStays();
 };
 
-void tst_ReadOnlyStore::statusAndTraceTellAndTheOldFileStays_data()
-{
-    QTest::addColumn<bool>("bOld");
-    QTest::newRow("without a file") << false;
-    QTest::newRow("with a file") << true;
-}
-
 void tst_ReadOnlyStore::statusAndTraceTellAndTheOldFileStays()
 {
-    QFETCH(bool, bOld);
-    const SettingsHome home;
-    const QString directory = home.path("readonly");
-    const QString file = directory + "/store.PYXXml";
-    QVERIFY(QDir().mkpath(directory));
-    if (bOld)
-        PYXSettings(file).setValue("Key", 1);
-    QVERIFY(QFile::setPermissions(home.path("."), EverybodyReads));
-    QVERIFY(QFile::setPermissions(directory, NobodyWrites));
-    QSettings::Status status = QSettings::NoError;
-    int read = 0;
-    const QStringList traces = tracesOf([&] {
-        const CommonUser user;
-        PYXSettings settings(file);
-        read = settings.intValue("Key");
-        settings.setValue("Key", 2);
-        QCoreApplication::sendPostedEvents(&settings);
-        status = settings.status();
-        PYXSettings(file).setValue("Other", 3);
-    });
-    QVERIFY(QFile::setPermissions(directory, EverybodyReads));
-    QCOMPARE(status, QSettings::AccessError);
-    QCOMPARE(read, bOld ? 1 : 0);
-    QCOMPARE(traces.filter("cannot be written").size(), 1);
-    QCOMPARE(home.files(), bOld ? QStringList("readonly/store.PYXXml") : QStringList());
+    for (const bool bOld : {false, true}) {
+        const SettingsHome home;
+        const QString directory = home.path("readonly");
+        const QString file = directory + "/store.PYXXml";
+        QVERIFY(QDir().mkpath(directory));
+        if (bOld)
+            PYXSettings(file).setValue("Key", 1);
+        QVERIFY(QFile::setPermissions(home.path("."), EverybodyReads));
+        QVERIFY(QFile::setPermissions(directory, NobodyWrites));
+        QSettings::Status status = QSettings::NoError;
+        int read = 0;
+        const QStringList traces = tracesOf([&] {
+            const CommonUser user;
+            PYXSettings settings(file);
+            read = settings.intValue("Key");
+            settings.setValue("Key", 2);
+            QCoreApplication::sendPostedEvents(&settings);
+            status = settings.status();
+            PYXSettings(file).setValue("Other", 3);
+        });
+        QVERIFY(QFile::setPermissions(directory, EverybodyReads));
+        QCOMPARE(status, QSettings::AccessError);
+        QCOMPARE(read, bOld ? 1 : 0);
+        QCOMPARE(traces.filter("cannot be written").size(), 1);
+        QCOMPARE(home.files(), bOld ? QStringList("readonly/store.PYXXml") : QStringList());
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_ReadOnlyStore)

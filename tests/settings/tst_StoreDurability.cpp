@@ -1,12 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The PYXRuntime developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
+#include "FileContents.h"
 #include "PYXSettings.h"
 #include "PYXTraceWrapper.h"
 #include "RecordingTracer.h"
 #include "SettingsHome.h"
 
-#include <QtCore/QProcess>
-#include <QtCore/QRandomGenerator>
 #include <QtTest/QtTest>
 
 #include <memory>
@@ -38,15 +37,13 @@ private:
     static void replaceKeepingTime(const QString &file, const QByteArray &before, const QByteArray &after,
                                    const QDateTime &time)
     {
-        QFile old(file);
-        QVERIFY(old.open(QIODevice::ReadOnly));
         QSaveFile replacement(file);
         QVERIFY(replacement.open(QIODevice::WriteOnly));
-        replacement.write(old.readAll().replace(before, after));
-        old.close();
+        replacement.write(get(file).replace(before, after));
         QVERIFY(replacement.commit());
-        QVERIFY(old.open(QIODevice::ReadWrite));
-        QVERIFY(old.setFileTime(time, QFileDevice::FileModificationTime));
+        QFile replaced(file);
+        QVERIFY(replaced.open(QIODevice::ReadWrite));
+        QVERIFY(replaced.setFileTime(time, QFileDevice::FileModificationTime));
     }
     static QString writer() { return QCoreApplication::applicationDirPath() + "/storewriter"; }
     static QSettings::Status save(const QString &file, int value)
@@ -110,11 +107,7 @@ void tst_StoreDurability::aFileReplacedWhileItIsReadIsReadAgain()
     static QString file;
     static int otherResult = -1;
     file = m_home.path("replaced.PYXXml");
-    {
-        QFile first(file);
-        QVERIFY(first.open(QIODevice::WriteOnly));
-        first.write("<pyxxmlsettings version='1.0'><odd/></pyxxmlsettings>");
-    }
+    put(file, "<pyxxmlsettings version='1.0'><odd/></pyxxmlsettings>");
     const auto old = qInstallMessageHandler([](QtMsgType, const QMessageLogContext &, const QString &) {
         otherResult = QProcess::execute(writer(), {file, "set", "Other", "1"});
     });
@@ -161,14 +154,12 @@ void tst_StoreDurability::aKilledWriterLeavesAWholeFile()
 void tst_StoreDurability::aLockThatNamesNobodyIsRemoved()
 {
     const QString file = m_home.path("locked.PYXXml");
-    QFile lock(file + ".lock");
-    QVERIFY(lock.open(QIODevice::WriteOnly));
-    lock.close();
+    put(file + ".lock", {});
     QElapsedTimer timer;
     timer.start();
     QCOMPARE(save(file, 1), QSettings::NoError);
     QVERIFY(timer.elapsed() < 15'000); // by itself, the lock lasts for half a minute
-    QVERIFY(!lock.exists());
+    QVERIFY(!QFile::exists(file + ".lock"));
 }
 
 void tst_StoreDurability::aVanishedDirectoryIsMadeAgain()
@@ -188,9 +179,8 @@ void tst_StoreDurability::aVanishedDirectoryIsMadeAgain()
 void tst_StoreDurability::aStoreThatCannotBeWrittenIsToldOnce()
 {
     const QString file = m_home.path("blocked/store.PYXXml");
-    QFile wall(m_home.path("blocked")); // where the directory should be
-    QVERIFY(wall.open(QIODevice::WriteOnly));
-    wall.close();
+    const QString wall = m_home.path("blocked"); // where the directory should be
+    put(wall, {});
     for (int value = 0; value < 3; ++value)
         QCOMPARE(save(file, value), QSettings::AccessError);
     PYXSettings(file).setValue("Key", 4); // saved as it goes
@@ -199,11 +189,11 @@ void tst_StoreDurability::aStoreThatCannotBeWrittenIsToldOnce()
                                                "\" cannot be written; its changes are not saved.|"
                                                "source\\PYXSettings|"),
              qPrintable(m_tracer.calls.first()));
-    QVERIFY(wall.remove());
+    QVERIFY(QFile::remove(wall));
     QCOMPARE(save(file, 5), QSettings::NoError);
     QCOMPARE(PYXSettings(file).intValue("Key"), 5);
-    QVERIFY(QDir(m_home.path("blocked")).removeRecursively() && wall.open(QIODevice::WriteOnly));
-    wall.close();
+    QVERIFY(QDir(wall).removeRecursively());
+    put(wall, {});
     QCOMPARE(save(file, 6), QSettings::AccessError);
     QCOMPARE(m_tracer.calls.size(), 2); // it had been good in between
 }
