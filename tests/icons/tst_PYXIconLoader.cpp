@@ -312,6 +312,7 @@ void tst_PYXIconLoader::keepsAndOverridesIcons()
     QVERIFY(PYXIconLoader::staticHasOverrideIcon(path));
     QVERIFY(PYXIconLoader::staticRemoveOverrideIcon(path).isNull());
     QVERIFY(!PYXIconLoader::staticLoad(path).isNull());
+    QVERIFY(PYXIconLoader::hasInstance());
 }
 
 void tst_PYXIconLoader::noticesNewFiles()
