@@ -4,7 +4,7 @@
 #
 # package.sh [--windows]: makes the packages in build/packages from an optimised build of the library alone, with its
 # Qt help: three .deb files, which lintian checks where it is installed, and an archive (.tar.gz). Two runs on the same
-# commit make the same bytes.
+# commit make the same bytes but for the Qt help.
 #   --windows       the .zip for Windows instead, cross-built with MinGW
 #   WINQT_PREFIX    see test-windows.sh
 #   PYX_JOBS        how many jobs at a time (default: one per processor)
