@@ -46,7 +46,7 @@ fi
 
 minutes=${1:-15}
 speed=${2:-50}
-cmake --preset release -DPYX_BUILD_BENCHMARKS=OFF >/dev/null
+cmake --preset release -DPYX_BUILD_BENCHMARKS=OFF -DPYX_BUILD_TESTS=ON -DPYX_BUILD_EXAMPLES=ON >/dev/null
 cmake --build --preset release -j "$jobs" --target soak >&2
 status=0
 in_private_network build/release/bin/soak --minutes "$minutes" --speed "$speed" \
