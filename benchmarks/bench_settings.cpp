@@ -101,6 +101,7 @@ const QSettings::SettingsMap &readyMap()
 {
     static const QSettings::SettingsMap map = [] {
         std::vector<QString> keys; // one after the other in memory, as our reader makes them
+        keys.reserve(ReadKeys);
         for (int i = 0; i < ReadKeys; ++i)
             keys.push_back(groupName(i / KeysPerGroup) + QLatin1Char('/') + keyName(i % KeysPerGroup));
         QSettings::SettingsMap made;
