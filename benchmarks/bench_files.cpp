@@ -157,7 +157,7 @@ void writeRaw(benchmark::State &state)
 {
     const QTemporaryDir directory;
     RawFile file(directory);
-    const QByteArray data = block();
+    const QByteArray &data = block();
     bool bGood = true;
     for (auto _ : state)
         bGood = file.write(data.constData(), std::size_t(data.size())) && bGood;
@@ -170,7 +170,7 @@ void gatherLines(benchmark::State &state, const QByteArray &line)
 {
     const QTemporaryDir directory;
     RawFile file(directory);
-    std::vector<char> buffer(64 * 1024);
+    std::vector<char> buffer(std::size_t(64) * 1024);
     std::size_t used = 0;
     bool bGood = true;
     const auto size = std::size_t(line.size());

@@ -148,11 +148,11 @@ QString XmlSettingsScanner::_key(const struText &segment) const
 void XmlSettingsScanner::_fill(QSettings::SettingsMap &map) const
 {
     for (const struFound &found : m_found) {
-        QString written(found.text.text);
+        const QString written(found.text.text);
         if (found.bSize) {
             append(map, found.key, written.toInt());
         } else if (found.text.isLiteral()) {
-            append(map, found.key, std::move(written));
+            append(map, found.key, written);
         } else {
             QVariant value = XmlValueCodec::decoded(written);
             if (value.isValid())
