@@ -131,10 +131,9 @@ void tst_PYXNotification::closedWithoutAButton()
     for (auto *const parent : {static_cast<QWidget *>(nullptr), new QWidget}) {
         whenShown([parent](PYXNotification &dialog) {
             dialog.findChild<QCheckBox *>()->setChecked(false);
-            if (parent != nullptr)
-                delete parent;
-            else
+            if (parent == nullptr)
                 QTest::keyClick(&dialog, Qt::Key_Escape);
+            delete parent;
         });
         QCOMPARE(PYXNotification::warning(parent, "Title", "text", "a", "b"), Box::NoButton);
         QVERIFY(PYXNotification::willShowMessage("a", "b"));
