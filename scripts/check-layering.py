@@ -27,7 +27,7 @@ FLOOR_OF_ROOM = {room: floor for floor, rooms in FLOORS.items() for room in room
 PRIVATE_ROOMS = {"platform"}
 
 LIBRARY_DIRS = ("include", "source")
-CODE_DIRS = LIBRARY_DIRS + ("tests", "examples", "benchmarks", "fuzz")
+CODE_DIRS = LIBRARY_DIRS + ("tests", "examples", "benchmarks", "fuzz", "soak")
 SPDX_DIRS = CODE_DIRS + ("cmake", "scripts", "resources", "docs", ".ci")
 CODE_SUFFIXES = {".h", ".cpp"}
 SPDX_SUFFIXES = CODE_SUFFIXES | {".cmake", ".in", ".sh", ".py"}

@@ -39,7 +39,7 @@ if [ "${1:-}" = --valgrind ]; then
     export QT_ENABLE_REGEXP_JIT=0
     in_private_network valgrind --quiet --leak-check=full --show-leak-kinds=definite,indirect \
         --errors-for-leak-kinds=definite,indirect --error-exitcode=9 --num-callers=30 \
-        --suppressions=tests/soak/valgrind.supp \
+        --suppressions=soak/valgrind.supp \
         build/dev/bin/soak --minutes "${2:-1}" --speed 0.5 --loop 1 --no-verdict
     exit
 fi
